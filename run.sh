@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Builds Orbidex (Release) and starts it.  The program lives in ~/Orbidex, its data in
+# ~/Orbidex/data; pass "client" to start the network client instead.
+set -euo pipefail
+cd "$(dirname "$0")"
+source scripts/ensure-packages.sh
+ensure_packages
+
+cmake -S . -B build/release -DCMAKE_BUILD_TYPE=Release -DORBIDEX_BENCH=OFF
+cmake --build build/release -j"${ORBIDEX_JOBS:-2}" --target orbidex orbidex-client
+
+exe=orbidex
+[ "${1:-}" = "client" ] && exe=orbidex-client
+home="${ORBIDEX_HOME:-$HOME/Orbidex}"
+mkdir -p "$home"
+cp -f "build/release/app/$exe" "$home/$exe"
+exec "$home/$exe"

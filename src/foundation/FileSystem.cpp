@@ -1,0 +1,208 @@
+#include "foundation/FileSystem.h"
+
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <chrono>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+
+#include "foundation/VbDate.h"
+#include "foundation/VbString.h"
+
+namespace fs = std::filesystem;
+
+namespace orbidex {
+
+namespace {
+
+enum class Kind { Missing, File, Folder, Other };
+
+Kind kindOf(const std::string& native) {
+    struct stat st {};
+    if (native.empty() || ::stat(native.c_str(), &st) != 0) return Kind::Missing;
+    if (S_ISREG(st.st_mode)) return Kind::File;
+    if (S_ISDIR(st.st_mode)) return Kind::Folder;
+    return Kind::Other;
+}
+
+// The entry of `folder` whose name equals `name` without regard to case, or "".
+std::string findEntryInOtherCase(const std::string& folder, const std::string& name) {
+    std::error_code ec;
+    for (fs::directory_iterator it(folder.empty() ? "." : folder, ec), end; !ec && it != end; it.increment(ec)) {
+        const std::string entry = it->path().filename().string();
+        if (EqualsText(entry, name)) return entry;
+    }
+    return "";
+}
+
+std::string joinNative(const std::string& folder, const std::string& name) {
+    if (folder.empty()) return name;
+    if (folder.back() == '/') return folder + name;
+    return folder + "/" + name;
+}
+
+}  // namespace
+
+std::string ToStoredPath(std::string_view nativePath) { return Replace(nativePath, "/", "\\"); }
+
+std::string ToNativePath(std::string_view storedPath) {
+    const std::string native = Replace(storedPath, "\\", "/");
+    if (native.empty() || kindOf(native) != Kind::Missing) return native;
+
+    const bool absolute = native[0] == '/';
+    const bool trailing = native.back() == '/';
+    std::string resolved = absolute ? "/" : "";
+    bool resolving = true;
+    for (const std::string& part : Split(native, "/")) {
+        if (part.empty()) continue;
+        std::string name = part;
+        if (resolving && part != "." && part != "..") {
+            const std::string exact = joinNative(resolved, part);
+            if (kindOf(exact) == Kind::Missing) {
+                const std::string other = findEntryInOtherCase(resolved, part);
+                if (!other.empty()) name = other;
+                else resolving = false;
+            }
+        }
+        resolved = joinNative(resolved, name);
+    }
+    if (trailing && !resolved.empty() && resolved.back() != '/') resolved += "/";
+    return resolved;
+}
+
+bool WildcardMatch(std::string_view pattern, std::string_view name) {
+    if (pattern == "*.*" || pattern == "*") return true;
+    // Iterative match with backtracking on the last star.
+    size_t p = 0, n = 0, star = std::string_view::npos, mark = 0;
+    auto same = [](char a, char b) { return EqualsText(std::string_view(&a, 1), std::string_view(&b, 1)); };
+    while (n < name.size()) {
+        if (p < pattern.size() && (pattern[p] == '?' || same(pattern[p], name[n]))) {
+            ++p;
+            ++n;
+        } else if (p < pattern.size() && pattern[p] == '*') {
+            star = p++;
+            mark = n;
+        } else if (star != std::string_view::npos) {
+            p = star + 1;
+            n = ++mark;
+        } else {
+            return false;
+        }
+    }
+    while (p < pattern.size() && pattern[p] == '*') ++p;
+    // "name.*" matches "name" too.
+    if (p + 2 == pattern.size() && pattern[p] == '.' && pattern[p + 1] == '*') return true;
+    return p == pattern.size();
+}
+
+bool FileExists(std::string_view storedPath) { return kindOf(ToNativePath(storedPath)) == Kind::File; }
+
+bool FolderExists(std::string_view storedPath) { return kindOf(ToNativePath(storedPath)) == Kind::Folder; }
+
+bool DeleteFile(std::string_view storedPath) {
+    const std::string native = ToNativePath(storedPath);
+    if (kindOf(native) != Kind::File) return false;
+    return std::remove(native.c_str()) == 0;
+}
+
+bool CopyFile(std::string_view source, std::string_view destination) {
+    const std::string from = ToNativePath(source);
+    if (kindOf(from) != Kind::File) return false;
+    std::string bytes;
+    if (!ReadWholeFile(source, bytes)) return false;
+    return WriteWholeFile(destination, bytes);
+}
+
+bool RenameFile(std::string_view from, std::string_view to) {
+    std::error_code ec;
+    fs::rename(ToNativePath(from), ToNativePath(to), ec);
+    return !ec;
+}
+
+bool MakeFolder(std::string_view storedPath) {
+    std::error_code ec;
+    return fs::create_directory(ToNativePath(storedPath), ec) && !ec;
+}
+
+long long FileLength(std::string_view storedPath) {
+    struct stat st {};
+    const std::string native = ToNativePath(storedPath);
+    if (::stat(native.c_str(), &st) != 0 || !S_ISREG(st.st_mode)) return -1;
+    return static_cast<long long>(st.st_size);
+}
+
+bool FileTimeStamp(std::string_view storedPath, VbDate& stamp) {
+    struct stat st {};
+    const std::string native = ToNativePath(storedPath);
+    if (::stat(native.c_str(), &st) != 0) return false;
+    std::tm local{};
+    const std::time_t seconds = st.st_mtim.tv_sec;
+    if (localtime_r(&seconds, &local) == nullptr) return false;
+    stamp = DateSerial(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday) +
+            TimeSerial(local.tm_hour, local.tm_min, local.tm_sec);
+    return true;
+}
+
+std::vector<std::string> ListFolder(std::string_view storedPattern, bool includeFolders) {
+    std::vector<std::string> names;
+    const long cut = InStrRev(storedPattern, "\\");
+    const std::string folder = cut > 0 ? Left(storedPattern, cut) : "";
+    std::string pattern = cut > 0 ? Mid(storedPattern, cut + 1) : std::string(storedPattern);
+    if (pattern.empty()) pattern = "*";
+    std::string nativeFolder = ToNativePath(folder);
+    if (nativeFolder.empty()) nativeFolder = ".";
+    std::error_code ec;
+    for (fs::directory_iterator it(nativeFolder, ec), end; !ec && it != end; it.increment(ec)) {
+        const std::string name = it->path().filename().string();
+        std::error_code kindError;
+        const bool isFolder = it->is_directory(kindError);
+        const bool isFile = it->is_regular_file(kindError);
+        if (!(isFile || (includeFolders && isFolder))) continue;
+        if (WildcardMatch(pattern, name)) names.push_back(name);
+    }
+    return names;
+}
+
+bool ReadWholeFile(std::string_view storedPath, std::string& bytes) {
+    const std::string native = ToNativePath(storedPath);
+    if (kindOf(native) != Kind::File) return false;
+    std::ifstream in(native, std::ios::binary);
+    if (!in) return false;
+    bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    return !in.bad();
+}
+
+bool WriteWholeFile(std::string_view storedPath, std::string_view bytes) {
+    const std::string native = ToNativePath(storedPath);
+    if (kindOf(native) == Kind::Folder) return false;
+    std::ofstream out(native, std::ios::binary | std::ios::trunc);
+    if (!out) return false;
+    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return static_cast<bool>(out);
+}
+
+bool AppendToFile(std::string_view storedPath, std::string_view bytes) {
+    const std::string native = ToNativePath(storedPath);
+    if (kindOf(native) == Kind::Folder) return false;
+    std::ofstream out(native, std::ios::binary | std::ios::app);
+    if (!out) return false;
+    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return static_cast<bool>(out);
+}
+
+std::vector<std::string> SplitLines(std::string_view text) {
+    std::vector<std::string> lines;
+    size_t start = 0;
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\r' && text[i] != '\n') continue;
+        lines.emplace_back(text.substr(start, i - start));
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
+        start = i + 1;
+    }
+    if (start < text.size()) lines.emplace_back(text.substr(start));
+    return lines;
+}
+
+}  // namespace orbidex

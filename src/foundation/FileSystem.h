@@ -1,0 +1,53 @@
+#pragma once
+// The one place where a stored path ("\" separators, as the data and the messages hold
+// them) meets the operating system's, and file operations that match names without
+// regard to case, as the data folders of a Windows installation expect.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Platform.h"
+
+namespace orbidex {
+
+/// "\" becomes "/", and every part of the path that exists in another case is taken
+/// in the case it has on disk.  The part that does not exist keeps the case given.
+std::string ToNativePath(std::string_view storedPath);
+
+/// A native path ("/" separators) in stored form.
+std::string ToStoredPath(std::string_view nativePath);
+
+/// Matches a Dir-style pattern ("D*.DAT", "*.*", "?") against a name, without regard
+/// to case.  "*.*" also matches names without a dot.
+bool WildcardMatch(std::string_view pattern, std::string_view name);
+
+bool FileExists(std::string_view storedPath);    ///< a plain file
+bool FolderExists(std::string_view storedPath);  ///< a folder
+/// Deletes a plain file; false when there is none or it can't be deleted.
+bool DeleteFile(std::string_view storedPath);
+/// Copies a plain file over `destination`; false on any failure.
+bool CopyFile(std::string_view source, std::string_view destination);
+bool RenameFile(std::string_view from, std::string_view to);
+/// Makes one folder; its parent must exist.
+bool MakeFolder(std::string_view storedPath);
+/// Length of a plain file in bytes, or -1.
+long long FileLength(std::string_view storedPath);
+/// Last-written time of a file or folder, in local time; false when it is missing.
+bool FileTimeStamp(std::string_view storedPath, VbDate& stamp);
+
+/// Names (not paths) of the entries of a folder that match the pattern at the end of
+/// `storedPattern` ("C:\data\D*.dat"), in the order of the folder, without "." and "..".
+/// With `includeFolders` folders are listed too, otherwise only plain files.
+std::vector<std::string> ListFolder(std::string_view storedPattern, bool includeFolders);
+
+/// Whole-file reads and writes of bytes; false on any failure.
+bool ReadWholeFile(std::string_view storedPath, std::string& bytes);
+bool WriteWholeFile(std::string_view storedPath, std::string_view bytes);
+bool AppendToFile(std::string_view storedPath, std::string_view bytes);
+
+/// The lines of a text, cut at CR LF, at a lone CR or at a lone LF.  A last line
+/// without a line end counts; a line end at the very end adds no empty line.
+std::vector<std::string> SplitLines(std::string_view text);
+
+}  // namespace orbidex

@@ -1,0 +1,121 @@
+#include "foundation/cFileIO.h"
+
+#include "foundation/FileSystem.h"
+#include "foundation/VbDate.h"
+#include "foundation/VbString.h"
+#include "foundation/cLog.h"
+
+namespace orbidex {
+
+cFileIO::~cFileIO() { closeFile(); }
+
+bool cFileIO::Exists() const { return FileExists(fname); }
+
+bool cFileIO::tryOpenForInput() {
+    if (!FileExists(fname)) return false;
+    handle_ = std::fopen(ToNativePath(fname).c_str(), "rb");
+    return handle_ != nullptr;
+}
+
+void cFileIO::OpenFile(const std::string& method) {
+    closeFile();
+    const std::string how = UCase(method);
+    bool opened = false;
+    if (how == "INPUT") {
+        opened = tryOpenForInput();
+    } else if (how == "OUTPUT" || how == "APPEND") {
+        const std::string native = ToNativePath(fname);
+        if (!FolderExists(fname)) handle_ = std::fopen(native.c_str(), how == "OUTPUT" ? "wb" : "ab");
+        opened = handle_ != nullptr;
+    } else {
+        platform().MsgBox("Invalid method of opening file", vbOKOnly, "");
+        isOpen_ = true;
+        moreData_ = true;
+        return;
+    }
+    if (!opened) return;
+    isOpen_ = true;
+    moreData_ = true;
+}
+
+void cFileIO::printLine(const std::string& text) {
+    if (handle_ == nullptr) return;
+    std::fwrite(text.data(), 1, text.size(), handle_);
+    std::fwrite("\r\n", 1, 2, handle_);
+}
+
+void cFileIO::appendLine(const std::string& text) {
+    if (isOpen_ && handle_ != nullptr) {
+        printLine(text);
+        return;
+    }
+    OpenFile("APPEND");
+    printLine(text);
+    closeFile();
+}
+
+std::string cFileIO::getLine() {
+    if (handle_ == nullptr) {
+        moreData_ = false;
+        return "";
+    }
+    int c = std::fgetc(handle_);
+    if (c == EOF) {
+        moreData_ = false;
+        return "";
+    }
+    std::string line;
+    while (c != EOF && c != '\r' && c != '\n') {
+        line.push_back(static_cast<char>(c));
+        c = std::fgetc(handle_);
+    }
+    if (c == '\r') {
+        const int next = std::fgetc(handle_);
+        if (next != '\n' && next != EOF) std::ungetc(next, handle_);
+    }
+    return line;
+}
+
+void cFileIO::closeFile() {
+    if (handle_ != nullptr) std::fclose(handle_);
+    handle_ = nullptr;
+    isOpen_ = false;
+}
+
+void cFileIO::Clear() { DeleteFile(fname); }
+
+std::string cFileIO::LoadFileToString(const std::string& separator) {
+    closeFile();
+    OpenFile("INPUT");
+    std::string text;
+    while (moreData_) text += getLine() + separator;
+    return text;
+}
+
+bool cFileIO::waitUntilFileCanBeOpened(int seconds) {
+    // The deadline is text: across midnight "00:00:03" is already below "23:59:58",
+    // so such a wait gives up after its first failed attempt.
+    const std::string endTime = FormatDate(DateAdd("s", seconds, Now()), "hh:mm:ss");
+    closeFile();
+    platform().SetBusyCursor(true);
+    long attempts = 0;
+    bool opened = tryOpenForInput();
+    while (!opened) {
+        if (endTime < FormatDate(Now(), "hh:mm:ss")) {
+            glbLog.log("FAIL - waitUntilFileCanOpened Timed out waiting for file to be opened after " +
+                           CStr(attempts) + " attempts for file " + fname,
+                       1);
+            platform().SetBusyCursor(false);
+            return false;
+        }
+        platform().DoEvents();
+        ++attempts;
+        opened = tryOpenForInput();
+    }
+    glbLog.log("SUCCESS - waitUntilFileCanOpened took " + CStr(attempts) + " attempts for " + fname, 1);
+    closeFile();
+    platform().SetBusyCursor(false);
+    return true;
+}
+
+}  // namespace orbidex

@@ -1,0 +1,252 @@
+#include "qt/QtPlatform.h"
+
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QSysInfo>
+#include <QUrl>
+#include <cstdio>
+#include <cstdlib>
+
+#include "controls/Form.h"
+#include "foundation/FileSystem.h"
+#include "foundation/VbDate.h"
+#include "qt/QtText.h"
+
+namespace orbidex {
+
+namespace {
+
+QMessageBox::StandardButtons buttonsOf(int style) {
+    switch (style & 7) {
+        case vbOKCancel: return QMessageBox::Ok | QMessageBox::Cancel;
+        case vbAbortRetryIgnore: return QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore;
+        case vbYesNoCancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case vbYesNo: return QMessageBox::Yes | QMessageBox::No;
+        case vbRetryCancel: return QMessageBox::Retry | QMessageBox::Cancel;
+        default: return QMessageBox::Ok;
+    }
+}
+
+QMessageBox::Icon iconOf(int style) {
+    switch (style & 0x70) {
+        case vbCritical: return QMessageBox::Critical;
+        case vbQuestion: return QMessageBox::Question;
+        case vbExclamation: return QMessageBox::Warning;
+        case vbInformation: return QMessageBox::Information;
+        default: return QMessageBox::NoIcon;
+    }
+}
+
+int answerOf(int button) {
+    switch (button) {
+        case QMessageBox::Cancel: return vbCancel;
+        case QMessageBox::Abort: return vbAbort;
+        case QMessageBox::Retry: return vbRetry;
+        case QMessageBox::Ignore: return vbIgnore;
+        case QMessageBox::Yes: return vbYes;
+        case QMessageBox::No: return vbNo;
+        default: return vbOK;
+    }
+}
+
+// The default button: the first of the set, or the second or third when asked.
+QMessageBox::StandardButton defaultOf(int style) {
+    QList<QMessageBox::StandardButton> order;
+    const auto set = buttonsOf(style);
+    for (auto b : {QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No, QMessageBox::Abort, QMessageBox::Retry,
+                   QMessageBox::Ignore, QMessageBox::Cancel})
+        if (set & b) order.push_back(b);
+    const int index = (style & vbDefaultButton3) ? 2 : (style & vbDefaultButton2) ? 1 : 0;
+    return order.value(index, order.front());
+}
+
+QString titleOr(const std::string& title) {
+    return title.empty() ? QCoreApplication::applicationName() : ToQString(title);
+}
+
+}  // namespace
+
+QtPlatform::QtPlatform(QtFormRegistry& forms) : forms_(forms) {}
+
+QtPlatform::~QtPlatform() {
+    if (instanceLock_ >= 0) ::close(instanceLock_);
+}
+
+VbDate QtPlatform::Now() {
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDate d = now.date();
+    const QTime t = now.time();
+    return DateSerial(d.year(), d.month(), d.day()) + TimeSerial(t.hour(), t.minute(), t.second());
+}
+
+double QtPlatform::Rnd() { return QRandomGenerator::global()->generateDouble(); }
+
+int QtPlatform::MsgBox(const std::string& prompt, int buttons, const std::string& title) {
+    QMessageBox box(iconOf(buttons), titleOr(title), ToQString(prompt), buttonsOf(buttons), QApplication::activeWindow());
+    box.setDefaultButton(defaultOf(buttons));
+    return answerOf(box.exec());
+}
+
+std::string QtPlatform::InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) {
+    bool ok = false;
+    const QString text = QInputDialog::getText(QApplication::activeWindow(), titleOr(title), ToQString(prompt),
+                                               QLineEdit::Normal, ToQString(defaultText), &ok);
+    return ok ? FromQString(text) : "";
+}
+
+void QtPlatform::SetBusyCursor(bool busy) {
+    if (busy == busy_) return;
+    busy_ = busy;
+    if (busy)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void QtPlatform::DoEvents() { QCoreApplication::processEvents(QEventLoop::AllEvents, 50); }
+
+void QtPlatform::Beep() { QApplication::beep(); }
+
+void QtPlatform::PlaySoundFile(const std::string& storedPath) {
+    // No sound library: hand the file to the desktop's player, or beep.
+    const QString native = QString::fromStdString(ToNativePath(storedPath));
+    for (const char* player : {"paplay", "aplay"}) {
+        const QString exe = QStandardPaths::findExecutable(QString::fromLatin1(player));
+        if (!exe.isEmpty() && QProcess::startDetached(exe, {native})) return;
+    }
+    Beep();
+}
+
+std::string QtPlatform::ClipboardText() { return FromQString(QGuiApplication::clipboard()->text()); }
+
+void QtPlatform::SetClipboardText(const std::string& text) { QGuiApplication::clipboard()->setText(ToQString(text)); }
+
+std::string QtPlatform::ProgramFolder() { return ToStoredPath(QCoreApplication::applicationDirPath().toStdString()); }
+
+std::string QtPlatform::ExeName() {
+    return QFileInfo(QCoreApplication::applicationFilePath()).fileName().toStdString();
+}
+
+std::string QtPlatform::UserName() {
+    if (const passwd* pw = ::getpwuid(::getuid()); pw != nullptr && pw->pw_name != nullptr) return pw->pw_name;
+    return qEnvironmentVariable("USER").toStdString();
+}
+
+std::string QtPlatform::ComputerName() { return QSysInfo::machineHostName().toStdString(); }
+
+bool QtPlatform::AnotherInstanceRunning() {
+    // One running copy per program folder: an exclusive lock on a file named after
+    // the folder.  The system drops the lock when a process ends, even by a crash.
+    if (instanceLock_ >= 0) return false;
+    const QByteArray key =
+        QCryptographicHash::hash(QCoreApplication::applicationDirPath().toUtf8(), QCryptographicHash::Sha1).toHex();
+    QString dir = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (dir.isEmpty()) dir = QDir::tempPath();
+    const QString path = dir + QStringLiteral("/orbidex-") + QString::fromLatin1(key.left(16)) + QStringLiteral(".lock");
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    if (fd < 0) return false;
+    if (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
+        ::close(fd);
+        return true;
+    }
+    instanceLock_ = fd;
+    return false;
+}
+
+ScreenSize QtPlatform::Screen() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr) return {15360, 11520};
+    const QRect r = screen->geometry();
+    return {PixelsToTwips(r.width()), PixelsToTwips(r.height())};
+}
+
+bool QtPlatform::RunAndWait(const std::string& commandLine) {
+    QStringList args = QProcess::splitCommand(ToQString(ToNativePath(commandLine)));
+    if (args.isEmpty()) return false;
+    QProcess process;
+    process.start(args.takeFirst(), args);
+    if (!process.waitForStarted()) return false;
+    while (!process.waitForFinished(50)) DoEvents();
+    return true;
+}
+
+bool QtPlatform::StartProcess(const std::string& commandLine) {
+    QStringList args = QProcess::splitCommand(ToQString(ToNativePath(commandLine)));
+    if (args.isEmpty()) return false;
+    const QString program = args.takeFirst();
+    return QProcess::startDetached(program, args);
+}
+
+int QtPlatform::OpenDocument(const std::string& fileOrUrl) {
+    const QString text = ToQString(fileOrUrl);
+    QUrl url = QUrl(text);
+    const bool isAddress = url.isValid() && url.scheme().size() > 1;
+    if (!isAddress) {
+        const QString native = QString::fromStdString(ToNativePath(fileOrUrl));
+        const QFileInfo info(native);
+        if (!info.dir().exists()) return 3;  // path not found
+        if (!info.exists()) return 2;        // file not found
+        url = QUrl::fromLocalFile(info.absoluteFilePath());
+    }
+    return QDesktopServices::openUrl(url) ? 42 : 31;
+}
+
+QWidget* QtPlatform::windowFor(Form& form) {
+    QPointer<QWidget> window = windows_.value(&form);
+    if (window.isNull()) {
+        window = forms_.Create(form);
+        if (window.isNull()) {
+            std::fprintf(stderr, "orbidex: no window for form %s\n", form.Name().c_str());
+            return nullptr;
+        }
+        windows_.insert(&form, window);
+    }
+    return window.data();
+}
+
+QWidget* QtPlatform::WindowOf(const Form& form) const { return windows_.value(&form).data(); }
+
+void QtPlatform::ShowModal(Form& form) {
+    QWidget* window = windowFor(form);
+    if (window == nullptr) return;
+    window->setWindowModality(Qt::ApplicationModal);
+    window->show();
+    QEventLoop loop;
+    modalLoops_.insert(&form, &loop);
+    if (!form.IsUnloaded() && form.Visible) loop.exec();
+    modalLoops_.remove(&form);
+}
+
+void QtPlatform::ShowModeless(Form& form) {
+    if (QWidget* window = windowFor(form)) window->show();
+}
+
+void QtPlatform::HideForm(Form& form) {
+    if (QWidget* window = WindowOf(form)) window->hide();
+    if (QEventLoop* loop = modalLoops_.value(&form)) loop->quit();
+}
+
+void QtPlatform::EndProgram(int exitCode) {
+    std::fflush(nullptr);
+    std::_Exit(exitCode);
+}
+
+}  // namespace orbidex

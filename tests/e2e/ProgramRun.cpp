@@ -1,0 +1,87 @@
+#include "ProgramRun.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFileSystemWatcher>
+#include <QTimer>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace fs = std::filesystem;
+
+namespace orbidex::test {
+
+ProgramRun::ProgramRun(const std::string& executable) : folder_(temp_.Native()) { copyExecutable(executable); }
+
+ProgramRun::ProgramRun(const std::string& executable, const std::string& folder) : folder_(folder) {
+    copyExecutable(executable);
+}
+
+ProgramRun::~ProgramRun() {
+    if (process_.state() != QProcess::NotRunning) {
+        process_.kill();
+        process_.waitForFinished(5000);
+    }
+}
+
+void ProgramRun::copyExecutable(const std::string& executable) {
+    exe_ = folder_ + "/" + fs::path(executable).filename().string();
+    fs::copy_file(executable, exe_, fs::copy_options::overwrite_existing);
+}
+
+bool ProgramRun::Start() {
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    process_.setProcessEnvironment(env);
+    process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process_.setWorkingDirectory(QString::fromStdString(folder_));
+    process_.start(QString::fromStdString(exe_), {});
+    return process_.waitForStarted(10000);
+}
+
+std::string ProgramRun::ReadFile(const std::string& relativePath) const {
+    std::ifstream in(folder_ + "/" + relativePath, std::ios::binary);
+    std::stringstream s;
+    s << in.rdbuf();
+    return s.str();
+}
+
+bool ProgramRun::Exists(const std::string& relativePath) const { return fs::exists(folder_ + "/" + relativePath); }
+
+bool ProgramRun::WaitForFileContaining(const std::string& relativePath, const std::string& text, int timeoutMs) {
+    auto found = [&] { return ReadFile(relativePath).find(text) != std::string::npos; };
+    if (found()) return true;
+    // Watch every folder on the way, so that the file's creation is seen too.
+    QFileSystemWatcher watcher;
+    fs::path path = fs::path(folder_) / relativePath;
+    for (fs::path p = path; p != p.parent_path() && p.string().size() >= folder_.size(); p = p.parent_path())
+        watcher.addPath(QString::fromStdString(p.string()));
+    QEventLoop loop;
+    QTimer deadline;
+    deadline.setSingleShot(true);
+    QObject::connect(&deadline, &QTimer::timeout, &loop, &QEventLoop::quit);
+    auto check = [&] {
+        for (fs::path p = path; p != p.parent_path() && p.string().size() >= folder_.size(); p = p.parent_path())
+            watcher.addPath(QString::fromStdString(p.string()));
+        if (found()) loop.quit();
+    };
+    QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &loop, check);
+    QObject::connect(&watcher, &QFileSystemWatcher::fileChanged, &loop, check);
+    QObject::connect(&process_, &QProcess::finished, &loop, &QEventLoop::quit);
+    deadline.start(timeoutMs);
+    if (!found()) loop.exec();
+    return found();
+}
+
+int ProgramRun::CloseAndWait(int timeoutMs) {
+    process_.terminate();
+    return WaitForExit(timeoutMs);
+}
+
+int ProgramRun::WaitForExit(int timeoutMs) {
+    if (!process_.waitForFinished(timeoutMs)) return -1;
+    return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
+}
+
+}  // namespace orbidex::test

@@ -1,0 +1,41 @@
+#pragma once
+// One run of a real executable, copied into a temporary program folder so that its
+// data folder lands there, with Qt's offscreen platform.
+
+#include <QProcess>
+#include <QString>
+#include <string>
+
+#include "TempFolder.h"
+
+namespace orbidex::test {
+
+class ProgramRun {
+public:
+    /// Copies the executable into a new temporary folder (or into `folder`).
+    explicit ProgramRun(const std::string& executable);
+    ProgramRun(const std::string& executable, const std::string& folder);
+    ~ProgramRun();
+
+    bool Start();
+    /// Waits, without polling, until the file below the program folder holds `text`.
+    bool WaitForFileContaining(const std::string& relativePath, const std::string& text, int timeoutMs = 20000);
+    /// Asks the program to close as the system does at log-off; its exit code, or -1.
+    int CloseAndWait(int timeoutMs = 20000);
+    /// Waits for the program to end by itself; its exit code, or -1.
+    int WaitForExit(int timeoutMs = 20000);
+
+    std::string ReadFile(const std::string& relativePath) const;
+    bool Exists(const std::string& relativePath) const;
+    const std::string& Folder() const { return folder_; }
+
+private:
+    void copyExecutable(const std::string& executable);
+
+    TempFolder temp_;
+    std::string folder_;
+    std::string exe_;
+    QProcess process_;
+};
+
+}  // namespace orbidex::test

@@ -1,0 +1,100 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "TempFolder.h"
+#include "foundation/FileSystem.h"
+
+using namespace orbidex;
+using orbidex::test::TempFolder;
+
+namespace {
+
+void touch(const std::string& native, const std::string& bytes = "x") {
+    std::ofstream(native, std::ios::binary) << bytes;
+}
+
+}  // namespace
+
+TEST(FileSystem, StoredPathsUseBackslashes) {
+    EXPECT_EQ(ToStoredPath("/tmp/a/b.txt"), "\\tmp\\a\\b.txt");
+    EXPECT_EQ(ToNativePath("\\tmp\\no-such-folder-x\\b.txt"), "/tmp/no-such-folder-x/b.txt");
+}
+
+TEST(FileSystem, NamesMatchWithoutRegardToCase) {
+    TempFolder t;
+    std::filesystem::create_directory(t.Native() + "/Data");
+    touch(t.Native() + "/Data/D200406.dat", "june");
+    const std::string root = t.Stored();
+
+    EXPECT_TRUE(FileExists(root + "\\data\\d200406.DAT"));
+    EXPECT_TRUE(FolderExists(root + "\\DATA"));
+    EXPECT_FALSE(FileExists(root + "\\DATA"));
+    EXPECT_EQ(FileLength(root + "\\DATA\\D200406.DAT"), 4);
+    EXPECT_EQ(ToNativePath(root + "\\data\\d200406.dat"), t.Native() + "/Data/D200406.dat");
+
+    // Writing a name that exists in another case writes the existing file.
+    ASSERT_TRUE(WriteWholeFile(root + "\\data\\D200406.DAT", "july"));
+    std::string bytes;
+    ASSERT_TRUE(ReadWholeFile(t.Native() + "/Data/D200406.dat", bytes));
+    EXPECT_EQ(bytes, "july");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(t.Native() + "/Data"),
+                            std::filesystem::directory_iterator()),
+              1);
+
+    // A new file keeps the case it was given, in the folder as it exists.
+    ASSERT_TRUE(WriteWholeFile(root + "\\data\\NewFile.Txt", ""));
+    EXPECT_TRUE(std::filesystem::exists(t.Native() + "/Data/NewFile.Txt"));
+
+    // Copying onto another case replaces the existing entry.
+    ASSERT_TRUE(CopyFile(root + "\\DATA\\newfile.txt", root + "\\data\\d200406.dat"));
+    EXPECT_EQ(FileLength(t.Native() + "/Data/D200406.dat"), 0);
+
+    EXPECT_TRUE(DeleteFile(root + "\\data\\NEWFILE.TXT"));
+    EXPECT_FALSE(std::filesystem::exists(t.Native() + "/Data/NewFile.Txt"));
+    EXPECT_FALSE(DeleteFile(root + "\\data\\NEWFILE.TXT"));
+    EXPECT_FALSE(DeleteFile(root + "\\data"));  // a folder is no file
+}
+
+TEST(FileSystem, DirPatternsMatchWithoutRegardToCase) {
+    EXPECT_TRUE(WildcardMatch("D*.DAT", "d200406.dat"));
+    EXPECT_TRUE(WildcardMatch("D??????.dat", "D200406.DAT"));
+    EXPECT_FALSE(WildcardMatch("D??????.dat", "D2004061.dat"));
+    EXPECT_FALSE(WildcardMatch("D*.DAT", "D200406.dat.BAK"));
+    EXPECT_TRUE(WildcardMatch("*.*", "README"));
+    EXPECT_TRUE(WildcardMatch("README.*", "README"));
+    EXPECT_TRUE(WildcardMatch("*", ""));
+
+    TempFolder t;
+    touch(t.Native() + "/D200406.dat");
+    touch(t.Native() + "/d200407.DAT");
+    touch(t.Native() + "/D200406.dat.BAK");
+    std::filesystem::create_directory(t.Native() + "/D200408.dat");
+    auto names = ListFolder(t.Stored() + "\\D*.DAT", false);
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (std::vector<std::string>{"D200406.dat", "d200407.DAT"}));
+    EXPECT_EQ(ListFolder(t.Stored() + "\\D*.DAT", true).size(), 3U);
+    EXPECT_TRUE(ListFolder(t.Stored() + "\\missing\\*.*", true).empty());
+}
+
+TEST(FileSystem, LinesEndInCrLfCrOrLf) {
+    EXPECT_EQ(SplitLines("a\r\nb\r\n"), (std::vector<std::string>{"a", "b"}));
+    EXPECT_EQ(SplitLines("a\r\n\r\nb"), (std::vector<std::string>{"a", "", "b"}));
+    EXPECT_EQ(SplitLines("a\nb\rc"), (std::vector<std::string>{"a", "b", "c"}));
+    EXPECT_TRUE(SplitLines("").empty());
+    EXPECT_EQ(SplitLines("\r\n"), (std::vector<std::string>{""}));
+}
+
+TEST(FileSystem, FoldersAndMissingFilesFailQuietly) {
+    TempFolder t;
+    std::string bytes = "kept";
+    EXPECT_FALSE(ReadWholeFile(t.Stored(), bytes));
+    EXPECT_FALSE(ReadWholeFile(t.Stored() + "\\missing.txt", bytes));
+    EXPECT_FALSE(WriteWholeFile(t.Stored(), "x"));
+    EXPECT_FALSE(WriteWholeFile(t.Stored() + "\\no\\such\\file.txt", "x"));
+    EXPECT_EQ(FileLength(t.Stored()), -1);
+    VbDate stamp = 0;
+    EXPECT_FALSE(FileTimeStamp(t.Stored() + "\\missing.txt", stamp));
+    EXPECT_TRUE(FileTimeStamp(t.Stored(), stamp));
+}
