@@ -171,8 +171,8 @@ std::string clsConfigDiary::DetectNetworkPath() {
 
 void clsConfigDiary::CreateDefaultIniFile() {
     gBoolNewIniFile = true;
-    const std::string createdLine = ";     orbidex.ini - created by " + platform().ExeName() + " on " +
-                                    FormatDate(Now(), "dd-MMM-yyyy hh:mm:ss");
+    const std::string createdLine =
+        ";     orbidex.ini - created by " + platform().ExeName() + " on " + FormatDate(Now(), "dd-MMM-yyyy hh:mm:ss");
     cFileIO file;
     file.init(fname);
     file.OpenFile("OUTPUT");
@@ -190,7 +190,8 @@ void clsConfigDiary::CreateDefaultIniFile() {
 }
 
 void clsConfigDiary::UpdateDefaultDiarySettings() {
-    setEach("calendar", {{"rows", "1"}, {"cols", "1"}, {"GridOrList", "GRID"}, {"DayWeekMonth", "1"}, {"ShowCalendar", "1"}});
+    setEach("calendar",
+            {{"rows", "1"}, {"cols", "1"}, {"GridOrList", "GRID"}, {"DayWeekMonth", "1"}, {"ShowCalendar", "1"}});
     setEach("appointments", {{"Wordwrap", "1"},
                              {"Autosize", "1"},
                              {"AutosizeWidth", "0"},
@@ -241,7 +242,8 @@ void clsConfigDiary::UpdateDefaultTessalineSettings() {
                         {"height", "700"},
                         {"width", "3000"}});
     setEach("intervals", {{"tasklist", "60"}, {"minEventTime", "1"}, {"reminders", "5"}, {"diskSpace", "30"}});
-    setEach("reminders", {{"scrollmessage", "1"}, {"sound", "1"}, {"popupwindow", "1"}, {"scrollMessageSeconds", "15"}});
+    setEach("reminders",
+            {{"scrollmessage", "1"}, {"sound", "1"}, {"popupwindow", "1"}, {"scrollMessageSeconds", "15"}});
     setEach("calendarView", {{"fontName", "Arial"},
                              {"fontSize", "9"},
                              {"showtoday", "1"},

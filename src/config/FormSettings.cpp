@@ -20,9 +20,13 @@ long toLong(double value) {
     return static_cast<long>(value);
 }
 
-long quarterOf(long twips) { return toLong(static_cast<double>(twips) / 4); }
+long quarterOf(long twips) {
+    return toLong(static_cast<double>(twips) / 4);
+}
 
-long threeQuartersOf(long twips) { return toLong(static_cast<double>(twips) / 4 * 3); }
+long threeQuartersOf(long twips) {
+    return toLong(static_cast<double>(twips) / 4 * 3);
+}
 
 struct NamedColour {
     const char* name;
@@ -32,8 +36,8 @@ struct NamedColour {
 
 // Colours as 0xBBGGRR.  The dark one is a text colour, so white is black there.
 constexpr NamedColour kColours[] = {
-    {"WHITE", 0x000000, 0xFFFFFF},  {"RED", 0x000080, 0xC0C0FF},    {"ORANGE", 0x0040C0, 0xC0E0FF},
-    {"YELLOW", 0x008080, 0xC0FFFF}, {"GREEN", 0x008000, 0xC0FFC0},  {"BLUE", 0xC00000, 0xFFFFC0},
+    {"WHITE", 0x000000, 0xFFFFFF},  {"RED", 0x000080, 0xC0C0FF},   {"ORANGE", 0x0040C0, 0xC0E0FF},
+    {"YELLOW", 0x008080, 0xC0FFFF}, {"GREEN", 0x008000, 0xC0FFC0}, {"BLUE", 0xC00000, 0xFFFFC0},
     {"PURPLE", 0x800080, 0xFFC0C0}, {"PINK", 0xFF00FF, 0xFFC0FF},
 };
 

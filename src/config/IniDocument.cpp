@@ -8,7 +8,9 @@ namespace {
 
 constexpr const char* kLineEnd = "\r\n";
 
-bool isBlankOrTab(char c) { return c == ' ' || c == '\t'; }
+bool isBlankOrTab(char c) {
+    return c == ' ' || c == '\t';
+}
 
 std::string_view trimBlanksAndTabs(std::string_view s) {
     while (!s.empty() && isBlankOrTab(s.front())) s.remove_prefix(1);
@@ -22,7 +24,9 @@ std::string_view oneLine(std::string_view s) {
     return cut == std::string_view::npos ? s : s.substr(0, cut);
 }
 
-bool isComment(std::string_view line) { return !line.empty() && line.front() == ';'; }
+bool isComment(std::string_view line) {
+    return !line.empty() && line.front() == ';';
+}
 
 // The name of a "[name]" line, or false for any other line.
 bool sectionNameOf(std::string_view line, std::string_view& name) {
@@ -47,7 +51,9 @@ bool keyValueOf(std::string_view line, std::string_view& key, std::string_view& 
 
 }  // namespace
 
-IniDocument::IniDocument(std::string text) : text_(std::move(text)) { scan(); }
+IniDocument::IniDocument(std::string text) : text_(std::move(text)) {
+    scan();
+}
 
 void IniDocument::scan() {
     lines_.clear();

@@ -11,13 +11,19 @@ std::string twoDigits(long minutes) {
     return Len(text) == 1 ? "0" + text : text;
 }
 
-std::string padThreeToFour(const std::string& text) { return Len(Trim(text)) == 3 ? "0" + text : text; }
+std::string padThreeToFour(const std::string& text) {
+    return Len(Trim(text)) == 3 ? "0" + text : text;
+}
 
 }  // namespace
 
-std::string clsTimeSlots::hhmmGet(long i) const { return inTable(i) ? hhmm_[static_cast<size_t>(i)] : ""; }
+std::string clsTimeSlots::hhmmGet(long i) const {
+    return inTable(i) ? hhmm_[static_cast<size_t>(i)] : "";
+}
 
-std::string clsTimeSlots::tmeGet(long i) const { return inTable(i) ? tme_[static_cast<size_t>(i)] : ""; }
+std::string clsTimeSlots::tmeGet(long i) const {
+    return inTable(i) ? tme_[static_cast<size_t>(i)] : "";
+}
 
 void clsTimeSlots::hhmmLet(long i, const std::string& text) {
     if (inTable(i)) hhmm_[static_cast<size_t>(i)] = text;

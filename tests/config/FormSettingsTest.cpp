@@ -4,6 +4,7 @@
 #include "config/clsConfigDiary.h"
 #include "controls/ComboBox.h"
 #include "controls/Form.h"
+#include "foundation/VbString.h"
 
 using namespace orbidex;
 
@@ -42,39 +43,31 @@ protected:
     }
 };
 
-TEST_F(FormSettingsTest, NegativePlacesGoToTheEdgeAndAPlaceJustOnTheScreenStays) {
-    const Place form = Restored({"Left=-5", "Top=-1", "Height=2000", "Width=3000"}, true);
-    EXPECT_EQ(form.Left, 0);
-    EXPECT_EQ(form.Top, 0);
-    EXPECT_EQ(form.Height, 2000);
-    EXPECT_EQ(form.Width, 3000);
-
-    const Place edge = Restored({"Left=15359", "Top=11520", "Height=2000", "Width=3000"}, true);
-    EXPECT_EQ(edge.Left, kScreenWidth - 1);
-    EXPECT_EQ(edge.Top, kScreenHeight);
-}
-
-TEST_F(FormSettingsTest, AZeroOrMissingSizeTakesTheScreensOrTheDesignedSize) {
-    const Place screenSized = Restored({"Height=0", "Left=100", "Top=100"}, true);
-    EXPECT_EQ(screenSized.Height, kScreenHeight / 4 * 3);
-    EXPECT_EQ(screenSized.Width, kScreenWidth / 4 * 3);
-
-    const Place designed = Restored({"Height=0", "Left=100", "Top=100"}, false);
-    EXPECT_EQ(designed.Height, 3000);
-    EXPECT_EQ(designed.Width, 4000);
-    EXPECT_EQ(designed.Left, 100);
-
-    const Place negative = Restored({"Height=-20", "Width=-1", "Left=100", "Top=100"}, false);
-    EXPECT_EQ(negative.Height, 3000);
-    EXPECT_EQ(negative.Width, 4000);
-}
-
-TEST_F(FormSettingsTest, AWindowOffOrLargerThanTheScreenIsBroughtBack) {
-    const Place form = Restored({"Left=15361", "Top=99999", "Height=11521", "Width=40000"}, true);
-    EXPECT_EQ(form.Left, kScreenWidth / 4);
-    EXPECT_EQ(form.Top, kScreenHeight / 4);
-    EXPECT_EQ(form.Height, kScreenHeight / 4 * 3);
-    EXPECT_EQ(form.Width, kScreenWidth / 4 * 3);
+TEST_F(FormSettingsTest, StoredPlacesAreCheckedAgainstTheScreen) {
+    constexpr long w = kScreenWidth, h = kScreenHeight;
+    const struct {
+        std::vector<std::string> keys;
+        bool useScreenSize;
+        Place expected;
+    } cases[] = {
+        // Negative places go to the edge; a place just on the screen stays.
+        {{"Left=-5", "Top=-1", "Height=2000", "Width=3000"}, true, {0, 0, 3000, 2000}},
+        {{"Left=15359", "Top=11520", "Height=2000", "Width=3000"}, true, {w - 1, h, 3000, 2000}},
+        // No size stored: 3/4 of the screen, or the size the form was designed with.
+        {{"Height=0", "Left=100", "Top=100"}, true, {100, 100, w / 4 * 3, h / 4 * 3}},
+        {{"Height=0", "Left=100", "Top=100"}, false, {100, 100, 4000, 3000}},
+        {{"Height=-20", "Width=-1", "Left=100", "Top=100"}, false, {100, 100, 4000, 3000}},
+        // Off the screen or larger than it: brought back.
+        {{"Left=15361", "Top=99999", "Height=11521", "Width=40000"}, true, {w / 4, h / 4, w / 4 * 3, h / 4 * 3}},
+    };
+    for (const auto& c : cases) {
+        const Place place = Restored(c.keys, c.useScreenSize);
+        const std::string which = Join(c.keys, " ") + (c.useScreenSize ? " (screen size)" : "");
+        EXPECT_EQ(place.Left, c.expected.Left) << which;
+        EXPECT_EQ(place.Top, c.expected.Top) << which;
+        EXPECT_EQ(place.Width, c.expected.Width) << which;
+        EXPECT_EQ(place.Height, c.expected.Height) << which;
+    }
 }
 
 TEST_F(FormSettingsTest, AMaximisedWindowKeepsItsLastNormalPlace) {
@@ -83,11 +76,13 @@ TEST_F(FormSettingsTest, AMaximisedWindowKeepsItsLastNormalPlace) {
     form.WindowState = 2;
     form.Height = 11520;
     glbConfig.SaveFormSettings(form, IniPath());
-    EXPECT_EQ(IniText(), "[frmTest]\r\nHeight=3000\r\nWidth=4000\r\nLeft=100\r\nTop=200\r\nWindowState=2\r\n[next]\r\n");
+    EXPECT_EQ(IniText(),
+              "[frmTest]\r\nHeight=3000\r\nWidth=4000\r\nLeft=100\r\nTop=200\r\nWindowState=2\r\n[next]\r\n");
 
     form.WindowState = 0;
     glbConfig.SaveFormSettings(form, IniPath());
-    EXPECT_EQ(IniText(), "[frmTest]\r\nHeight=11520\r\nWidth=4000\r\nLeft=500\r\nTop=600\r\nWindowState=0\r\n[next]\r\n");
+    EXPECT_EQ(IniText(),
+              "[frmTest]\r\nHeight=11520\r\nWidth=4000\r\nLeft=500\r\nTop=600\r\nWindowState=0\r\n[next]\r\n");
 }
 
 TEST_F(FormSettingsTest, ColourNamesAreFoldedAndLookedUpDarkOrPale) {

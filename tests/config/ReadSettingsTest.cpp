@@ -20,28 +20,18 @@ protected:
     }
 };
 
-TEST_F(ReadSettingsTest, WaitTimeIsForcedIntoOneToTwenty) {
-    const std::pair<const char*, int16_t> cases[] = {{"0", 1}, {"99", 20}, {"-4", 1}, {"7 seconds", 7}, {"20", 20}};
-    for (const auto& [text, expected] : cases) {
-        WriteIni({"[network]", std::string("waitTime=") + text});
-        glbConfig.ReadAllSettings();
-        EXPECT_EQ(glbConfig.waitTime, expected) << text;
-    }
-}
-
-TEST_F(ReadSettingsTest, AMissingKeyReadsAsZeroAndLeavesOneWarningAtLevelThree) {
-    WriteIni({"[network]", "security=3"});
+TEST_F(ReadSettingsTest, WaitTimeIsForcedIntoOneToTwentyAndAMissingOneWarnsAtEachLoad) {
+    const std::pair<const char*, int16_t> cases[] = {
+        {"waitTime=0", 1}, {"waitTime=99", 20}, {"waitTime=7 seconds", 7}, {"waitTime=", 1}, {"", 1}};
     gLogLevel = 3;  // as when the settings are read again after the options
-    glbConfig.waitTime = 12;
-    glbConfig.ReadAllSettings();
-    EXPECT_EQ(glbConfig.waitTime, 1);
-    EXPECT_EQ(warningsFor("network", "waitTime"), 1);
-    // Present but empty is the same as missing.
-    EXPECT_EQ(warningsFor("network", "security"), 0);
-    WriteIni({"[network]", "security=", "[general]", "loglevel=3"});
-    glbConfig.ReadAllSettings();
-    EXPECT_EQ(warningsFor("network", "security"), 1);
-    EXPECT_EQ(glbConfig.security, "");
+    for (const auto& [line, expected] : cases) {
+        glbConfig.waitTime = 12;
+        WriteIni({"[general]", "loglevel=3", "[network]", line});
+        glbConfig.ReadAllSettings();
+        EXPECT_EQ(glbConfig.waitTime, expected) << line;
+    }
+    // Empty and missing are the same: one warning each.
+    EXPECT_EQ(warningsFor("network", "waitTime"), 2);
 }
 
 TEST_F(ReadSettingsTest, ColoursTakeDecimalOrHexAndKeepTheirValueOtherwise) {
@@ -49,8 +39,8 @@ TEST_F(ReadSettingsTest, ColoursTakeDecimalOrHexAndKeepTheirValueOtherwise) {
     glbConfig.multi_BackColor = 222;
     glbConfig.weekend_BackColor = 333;
     glbConfig.today_ForeColor = 444;
-    WriteIni({"[colour]", "normal_BackColor=&HC0C0FF", "multi_BackColor=light blue", "weekend_BackColor=",
-              "today_ForeColor=255", "spanning_BackColor=&hc0c0c0"});
+    WriteIni({"[colour]", "normal_BackColor=&HC0C0FF", "multi_BackColor=light blue",
+              "weekend_BackColor=", "today_ForeColor=255", "spanning_BackColor=&hc0c0c0"});
     glbConfig.ReadAllSettings();
     EXPECT_EQ(glbConfig.normal_BackColor, 0xC0C0FF);
     EXPECT_EQ(glbConfig.multi_BackColor, 222);
@@ -60,49 +50,41 @@ TEST_F(ReadSettingsTest, ColoursTakeDecimalOrHexAndKeepTheirValueOtherwise) {
 }
 
 TEST_F(ReadSettingsTest, LenientNumbersTakeTheLeadingNumberStrictOnesKeepTheirValue) {
-    glbConfig.DayWeekMonth = 31;
-    glbConfig.ShowCalendar = 1;
-    glbConfig.ShowShaded = 1;
-    glbConfig.RowHeightMax = 999;
-    WriteIni({"[calendar]", "DayWeekMonth=7 days", "ShowCalendar=0", "rows=2x", "[network]", "ShowShaded=",
-              "[appointments]", "RowHeightMin=300twips", "[timeslots]", "StartTime=8", "StopTime=17",
-              "numTimeSlotPerHour=4 per hour"});
-    glbConfig.ReadAllSettings();
-    EXPECT_EQ(glbConfig.DayWeekMonth, 31);
-    EXPECT_EQ(glbConfig.ShowCalendar, 0);
-    EXPECT_EQ(glbConfig.ShowShaded, 1);
-    EXPECT_EQ(glbConfig.rows, 2);
-    EXPECT_EQ(glbConfig.RowHeightMin, 300);
-    EXPECT_EQ(glbConfig.RowHeightMax, 0);  // missing: 0
-    EXPECT_EQ(glbConfig.timeSlots->startHr, 8);
-    EXPECT_EQ(glbConfig.timeSlots->numSlotsPerHour, 4);
-    EXPECT_EQ(glbConfig.timeSlots->totSlots, 40);
-}
-
-TEST_F(ReadSettingsTest, ANumberTooBigForItsFieldLeavesTheFieldAsItWas) {
-    glbConfig.DayWeekMonth = 7;
-    glbConfig.RowHeightMin = 255;
-    WriteIni({"[calendar]", "DayWeekMonth=40000", "[appointments]", "RowHeightMin=99999", "[intervals]",
-              "reminders=99999"});
-    glbConfig.ReadAllSettings();
-    EXPECT_EQ(glbConfig.DayWeekMonth, 7);
-    EXPECT_EQ(glbConfig.RowHeightMin, 255);
-    EXPECT_EQ(glbConfig.reminders, 99999);  // a 32-bit field
+    clsConfigDiary& c = glbConfig;
+    c.DayWeekMonth = 31;
+    c.ShowCalendar = 1;
+    c.ShowShaded = 1;
+    c.cols = 3;
+    c.RowHeightMin = 255;
+    c.RowHeightMax = 999;
+    WriteIni({"[calendar]", "DayWeekMonth=7 days", "ShowCalendar=0", "rows=2x", "cols=40000", "[network]",
+              "ShowShaded=", "[appointments]", "Autosize=300twips", "RowHeightMin=99999", "[intervals]",
+              "reminders=99999", "[timeslots]", "StartTime=8", "StopTime=17", "numTimeSlotPerHour=4 per hour"});
+    c.ReadAllSettings();
+    EXPECT_EQ(c.DayWeekMonth, 31);
+    EXPECT_EQ(c.ShowCalendar, 0);
+    EXPECT_EQ(c.ShowShaded, 1);
+    EXPECT_EQ(c.rows, 2);
+    EXPECT_EQ(c.Autosize, 300);
+    EXPECT_EQ(c.RowHeightMax, 0);  // missing
+    // Too big for a 16-bit field: the field keeps its value.  The interval has 32 bits.
+    EXPECT_EQ(c.cols, 3);
+    EXPECT_EQ(c.RowHeightMin, 255);
+    EXPECT_EQ(c.reminders, 99999);
+    EXPECT_EQ(c.timeSlots->numSlotsPerHour, 4);
+    EXPECT_EQ(c.timeSlots->totSlots, 40);
 }
 
 TEST_F(ReadSettingsTest, CaptionsGoIntoTheLikeNamedFieldsWhateverTheKeysCase) {
-    WriteIni({"[ListViewHeadings]", "Date=Day", "Length=Minutes", "ActionID=Action", "UrlID=Link", "JobtodoID=Job",
-              "RemindDate=Remind on", "Status=State", "ID=<hide>", "[TaskHeadings]", "details=Task",
-              "RemindTime=At"});
+    WriteIni({"[ListViewHeadings]", "Date=Day", "Length=Minutes", "UrlID=Link", "JobtodoID=Job", "RemindDate=Remind on",
+              "Status=State", "[TaskHeadings]", "details=Task", "RemindTime=At"});
     glbConfig.ReadAllSettings();
     EXPECT_EQ(gListViewHeadings.DateEvent, "Day");
     EXPECT_EQ(gListViewHeadings.length, "Minutes");
-    EXPECT_EQ(gListViewHeadings.Action, "Action");
     EXPECT_EQ(gListViewHeadings.URL, "Link");
     EXPECT_EQ(gListViewHeadings.JobToDoID, "Job");
     EXPECT_EQ(gListViewHeadings.DateRemind, "Remind on");
     EXPECT_EQ(gListViewHeadings.status, "State");
-    EXPECT_EQ(gListViewHeadings.ID, "<hide>");
     EXPECT_EQ(gListViewHeadings.TimeEvent, "");
     EXPECT_EQ(gTaskHeadings.details, "Task");
     EXPECT_EQ(gTaskHeadings.TimeRemind, "At");
@@ -143,61 +125,25 @@ TEST_F(ReadSettingsTest, EveryReadMakesANewTimeSlotTable) {
     EXPECT_EQ(before->totSlots, 20);
 }
 
-TEST_F(ReadSettingsTest, ASecondRunningCopyEndsBeforeAnyFileIsTouched) {
-    platform_.SetAnotherInstanceRunning(true);
-    int exitCode = 0;
-    EXPECT_TRUE(ReadAllSettingsEnds(exitCode));
-    EXPECT_EQ(exitCode, 1);
-    ASSERT_EQ(platform_.Transcript().size(), 1U);
-    EXPECT_EQ(platform_.Transcript()[0].text, "Brindlewick Software's Diary is already running");
-    EXPECT_EQ(platform_.Transcript()[0].buttons, vbOKOnly);
-    EXPECT_FALSE(FileExists(IniPath()));
-}
-
 TEST_F(ReadSettingsTest, SaveAllSettingsWritesItsKeysInOrder) {
-    gStrDataPath = "\\d\\";
-    clsConfigDiary& c = glbConfig;
-    c.datapath = "\\s\\";
-    c.runLocalModeOnly = "1";
-    c.security = "2";
-    c.waitTime = 5;
-    c.toolsPath = "\\t";
-    c.ShowPopupMessages = 1;
-    c.rows = 2;
-    c.cols = 3;
-    c.GridOrList = "LIST";
-    c.DayWeekMonth = 7;
-    c.ShowCalendar = 0;
-    c.Wordwrap = 1;
-    c.Autosize = 0;
-    c.RowHeightMin = 255;
-    c.RowHeightMax = 750;
-    c.timeSlots->startHr = 8;
-    c.timeSlots->stopHr = 17;
-    c.timeSlots->numSlotsPerHour = 4;
-    c.ShowShaded = 1;
-    c.ShowLocation = 0;
-    c.ShowDetails = 1;
-    c.ShowTotals = 0;
-    c.AlwaysRefresh = 1;
-    c.RetryAfterOutage = -1;
-    c.ShowShortCut = "1";
-    c.ShowFolders = "0";
-    c.ShowToolbarText = "1";
-    c.ShowToolbar = "0";
-    c.ShortCutSmallIcon = "1";
+    glbConfig.ReadAllSettings();  // the first run's defaults
+    glbConfig.waitTime = 5;
+    glbConfig.GridOrList = "LIST";
+    glbConfig.datapath = "\\s\\";
     WriteIni({"; mine", "[Network]", "userPath=\\u\\"});
-    c.SaveAllSettings();
+    glbConfig.SaveAllSettings();
     EXPECT_EQ(IniText(),
-              "; mine\r\n[Network]\r\nuserPath=\\u\\\r\ndataPath=\\s\\\r\nrunLocalModeOnly=1\r\nsecurity=2\r\n"
-              "waitTime=5\r\ntoolsPath=\\t\r\nShowPopupMessages=1\r\nShowShaded=1\r\nShowLocation=0\r\n"
-              "ShowDetails=1\r\nShowTotals=0\r\nAlwaysRefresh=1\r\nRetryAfterOutage=-1\r\n"
-              "[diary]\r\ndataPath=\\d\\\r\n"
-              "[calendar]\r\nrows=2\r\ncols=3\r\nGridOrList=LIST\r\nDayWeekMonth=7\r\nShowCalendar=0\r\n"
-              "[appointments]\r\nWordwrap=1\r\nAutosize=0\r\nRowHeightMin=255\r\nRowHeightMax=750\r\n"
-              "[timeslots]\r\nStartTime=8\r\nStopTime=17\r\nnumTimeSlotPerHour=4\r\n"
-              "[view]\r\nShowShortCut=1\r\nShowFolders=0\r\nShowToolbarText=1\r\nShowToolbar=0\r\n"
-              "ShortCutSmallIcon=1\r\n");
+              "; mine\r\n[Network]\r\nuserPath=\\u\\\r\ndataPath=\\s\\\r\nrunLocalModeOnly=1\r\nsecurity=3\r\n"
+              "waitTime=5\r\ntoolsPath=\r\nShowPopupMessages=1\r\nShowShaded=0\r\nShowLocation=1\r\n"
+              "ShowDetails=1\r\nShowTotals=0\r\nAlwaysRefresh=0\r\nRetryAfterOutage=0\r\n"
+              "[diary]\r\ndataPath=" +
+                  DataPath() +
+                  "\r\n"
+                  "[calendar]\r\nrows=1\r\ncols=1\r\nGridOrList=LIST\r\nDayWeekMonth=1\r\nShowCalendar=1\r\n"
+                  "[appointments]\r\nWordwrap=1\r\nAutosize=1\r\nRowHeightMin=255\r\nRowHeightMax=750\r\n"
+                  "[timeslots]\r\nStartTime=9\r\nStopTime=18\r\nnumTimeSlotPerHour=2\r\n"
+                  "[view]\r\nShowShortCut=1\r\nShowFolders=0\r\nShowToolbarText=1\r\nShowToolbar=1\r\n"
+                  "ShortCutSmallIcon=0\r\n");
 }
 
 TEST_F(ReadSettingsTest, GetValueAndSetValMeetInOneSectionWhateverItsCase) {

@@ -12,7 +12,9 @@ namespace fs = std::filesystem;
 
 namespace orbidex::test {
 
-ProgramRun::ProgramRun(const std::string& executable) : folder_(temp_.Native()) { copyExecutable(executable); }
+ProgramRun::ProgramRun(const std::string& executable) : folder_(temp_.Native()) {
+    copyExecutable(executable);
+}
 
 ProgramRun::ProgramRun(const std::string& executable, const std::string& folder) : folder_(folder) {
     copyExecutable(executable);
@@ -48,7 +50,9 @@ std::string ProgramRun::ReadFile(const std::string& relativePath) const {
     return s.str();
 }
 
-bool ProgramRun::Exists(const std::string& relativePath) const { return fs::exists(folder_ + "/" + relativePath); }
+bool ProgramRun::Exists(const std::string& relativePath) const {
+    return fs::exists(folder_ + "/" + relativePath);
+}
 
 bool ProgramRun::WaitForFileContaining(const std::string& relativePath, const std::string& text, int timeoutMs) {
     return WaitForFile(

@@ -122,8 +122,8 @@ TEST_F(StartTest, ASecondStartShowsItsMessageAndLeavesTheDataAlone) {
 
     ProgramRun second(ORBIDEX_EXE, first.Folder());
     ASSERT_TRUE(second.Start());
-    ASSERT_TRUE(second.WaitForFile("data/OX_LOG.log",
-                                   [](const std::string& log) { return countOf(log, "(build ") == 2; }));
+    ASSERT_TRUE(
+        second.WaitForFile("data/OX_LOG.log", [](const std::string& log) { return countOf(log, "(build ") == 2; }));
     // The message box "Brindlewick Software's Diary is already running" holds the
     // second copy: it is still there, and has written nothing but its log lines.
     EXPECT_TRUE(second.Running());
