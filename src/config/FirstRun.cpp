@@ -1,5 +1,9 @@
 // The first start: no settings file yet.  The file is written with its comment header
 // and every default, and a client is asked whether it works with a server.
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "config/PrivateProfile.h"
 #include "config/clsConfigDiary.h"
 #include "foundation/ProgramState.h"
