@@ -1,4 +1,5 @@
 // The long-lived objects of the program, put back to their start by ResetProgramState.
+#include "config/clsConfigDiary.h"
 #include "foundation/ProgramState.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/frmClientDiaryMain.h"
@@ -6,6 +7,9 @@
 namespace orbidex {
 
 void ResetProgramObjects() {
+    glbConfig = clsConfigDiary();
+    gListViewHeadings = cDiaryRecord();
+    gTaskHeadings = cDiaryRecord();
     glbCmd = clsDiaryCommand();
     ResetMainForm();
 }

@@ -23,6 +23,7 @@ double gHoursPerDay = 0;
 int16_t glbNumDaysToDisplay = 0;
 
 std::string glbNetworkDatapath;
+bool gBoolNewIniFile = false;
 
 std::string glbClientsNetworkDatapath;
 std::string glbMyUserName;
@@ -54,6 +55,7 @@ void ResetProgramState() {
     gHoursPerDay = 0;
     glbNumDaysToDisplay = 0;
     glbNetworkDatapath.clear();
+    gBoolNewIniFile = false;
     glbClientsNetworkDatapath.clear();
     glbMyUserName.clear();
     glbNetworkAlive = false;

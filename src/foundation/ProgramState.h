@@ -29,6 +29,7 @@ extern int16_t glbNumDaysToDisplay;       ///< days the calendar view shows
 
 // Settings mirrored outside the settings object
 extern std::string glbNetworkDatapath;    ///< the server's shared folder
+extern bool gBoolNewIniFile;              ///< the settings file was made by this run
 
 // The network session
 extern std::string glbClientsNetworkDatapath;

@@ -1,5 +1,6 @@
 #include "foundation/modMain.h"
 
+#include "config/clsConfigDiary.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
@@ -26,12 +27,20 @@ void openLog() {
     gLogLevel = 0;
 }
 
+// A second running copy ends here, before any file is touched; a missing settings
+// file is made with its defaults.
+void readSettings() {
+    glbConfig.fname = gStrIniFile;
+    glbConfig.ReadAllSettings();
+}
+
 }  // namespace
 
 void modMain(const std::string& networkKind) {
     NETWORK_STRING = networkKind;
     findDataFolder();
     openLog();
+    readSettings();
     MainForm().Show(false);
 }
 

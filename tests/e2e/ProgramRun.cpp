@@ -12,7 +12,9 @@ namespace fs = std::filesystem;
 
 namespace orbidex::test {
 
-ProgramRun::ProgramRun(const std::string& executable) : folder_(temp_.Native()) { copyExecutable(executable); }
+ProgramRun::ProgramRun(const std::string& executable) : folder_(temp_.Native()) {
+    copyExecutable(executable);
+}
 
 ProgramRun::ProgramRun(const std::string& executable, const std::string& folder) : folder_(folder) {
     copyExecutable(executable);
@@ -27,7 +29,8 @@ ProgramRun::~ProgramRun() {
 
 void ProgramRun::copyExecutable(const std::string& executable) {
     exe_ = folder_ + "/" + fs::path(executable).filename().string();
-    fs::copy_file(executable, exe_, fs::copy_options::overwrite_existing);
+    // A running copy can't be overwritten; a second run in the folder shares it.
+    if (!fs::exists(exe_)) fs::copy_file(executable, exe_);
 }
 
 bool ProgramRun::Start() {
@@ -47,10 +50,18 @@ std::string ProgramRun::ReadFile(const std::string& relativePath) const {
     return s.str();
 }
 
-bool ProgramRun::Exists(const std::string& relativePath) const { return fs::exists(folder_ + "/" + relativePath); }
+bool ProgramRun::Exists(const std::string& relativePath) const {
+    return fs::exists(folder_ + "/" + relativePath);
+}
 
 bool ProgramRun::WaitForFileContaining(const std::string& relativePath, const std::string& text, int timeoutMs) {
-    auto found = [&] { return ReadFile(relativePath).find(text) != std::string::npos; };
+    return WaitForFile(
+        relativePath, [&](const std::string& bytes) { return bytes.find(text) != std::string::npos; }, timeoutMs);
+}
+
+bool ProgramRun::WaitForFile(const std::string& relativePath, const std::function<bool(const std::string&)>& done,
+                             int timeoutMs) {
+    auto found = [&] { return done(ReadFile(relativePath)); };
     if (found()) return true;
     // Watch every folder on the way, so that the file's creation is seen too.
     QFileSystemWatcher watcher;

@@ -4,6 +4,7 @@
 
 #include <QProcess>
 #include <QString>
+#include <functional>
 #include <string>
 
 #include "TempFolder.h"
@@ -12,7 +13,8 @@ namespace orbidex::test {
 
 class ProgramRun {
 public:
-    /// Copies the executable into a new temporary folder (or into `folder`).
+    /// Copies the executable into a new temporary folder (or into `folder`, where a
+    /// copy already there is used as it is, so that a second run can share it).
     explicit ProgramRun(const std::string& executable);
     ProgramRun(const std::string& executable, const std::string& folder);
     ~ProgramRun();
@@ -20,6 +22,10 @@ public:
     bool Start();
     /// Waits, without polling, until the file below the program folder holds `text`.
     bool WaitForFileContaining(const std::string& relativePath, const std::string& text, int timeoutMs = 20000);
+    /// Waits, without polling, until `done` holds for the file's bytes ("" while it is missing).
+    bool WaitForFile(const std::string& relativePath, const std::function<bool(const std::string&)>& done,
+                     int timeoutMs = 20000);
+    bool Running() const { return process_.state() != QProcess::NotRunning; }
     /// Asks the program to close as the system does at log-off; its exit code, or -1.
     int CloseAndWait(int timeoutMs = 20000);
     /// Waits for the program to end by itself; its exit code, or -1.

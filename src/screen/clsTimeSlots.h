@@ -1,0 +1,40 @@
+#pragma once
+// The table of time slots: one row of the day grid per slot, from the first hour to
+// the last, each hour cut into the same number of slots.
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace orbidex {
+
+class clsTimeSlots {
+public:
+    /// The highest slot number the table holds; slot numbers start at 1.
+    static constexpr long MaxSlot = 302;
+
+    /// Builds the labels and times of every slot from startHr, stopHr and
+    /// numSlotsPerHour, and sets totSlots.
+    void InitTimeArray();
+
+    /// The slot's time as "hhmm" (24 hours) and its row label ("9 am", "9:30"); ""
+    /// outside the table.
+    std::string hhmmGet(long i) const;
+    std::string tmeGet(long i) const;
+    /// Setting a slot outside the table does nothing.
+    void hhmmLet(long i, const std::string& text);
+    void tmeLet(long i, const std::string& text);
+
+    int16_t startHr = 0;
+    int16_t stopHr = 0;
+    int16_t numSlotsPerHour = 0;
+    int16_t totSlots = 0;
+
+private:
+    static bool inTable(long i) { return i >= 0 && i <= MaxSlot; }
+
+    std::array<std::string, MaxSlot + 1> hhmm_{};
+    std::array<std::string, MaxSlot + 1> tme_{};
+};
+
+}  // namespace orbidex
