@@ -1,5 +1,9 @@
 // The long-lived objects of the program, put back to their start by ResetProgramState.
+#include "diary/cDiaryRecord.h"
+#include "diary/cDiaryRecords.h"
+#include "diary/cDiaryRecurring.h"
 #include "foundation/ProgramState.h"
+#include "network/cComms.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/frmClientDiaryMain.h"
 
@@ -7,6 +11,12 @@ namespace orbidex {
 
 void ResetProgramObjects() {
     glbCmd = clsDiaryCommand();
+    glbEvents = cDiaryRecords();
+    glbComms = cComms();
+    glbRecurring = cDiaryRecurring();
+    gCurrentEvent = cDiaryRecord();
+    glbSearchEvent = cDiaryRecord();
+    glbOldEvent = cDiaryRecord();
     ResetMainForm();
 }
 
