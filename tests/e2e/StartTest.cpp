@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDate>
+#include <algorithm>
 
 #include "ProgramRun.h"
 #include "foundation/FileSystem.h"
@@ -43,6 +45,20 @@ TEST_F(StartTest, OrbidexStartsLogsAndEndsWhenClosed) {
     EXPECT_EQ(messages[0], "------------------------------------------------------");
     EXPECT_EQ(messages[1], "Started orbidex ");
     EXPECT_EQ(messages[2].rfind("v", 0), 0U);
+    EXPECT_EQ(run.CloseAndWait(), 0);
+}
+
+TEST_F(StartTest, AStartMakesThisMonthsFileAndCountsTheDataFiles) {
+    ProgramRun run(ORBIDEX_EXE);
+    ASSERT_TRUE(run.Start());
+    ASSERT_TRUE(run.WaitForFileContaining("data/OX_LOG.log", " Data Files\r\n"));
+    const std::string month = "data/D" + QDate::currentDate().toString(QStringLiteral("yyyyMM")).toStdString() + ".dat";
+    EXPECT_EQ(run.ReadFile(month), "\r\n");
+    const auto messages = logMessages(run.ReadFile("data/OX_LOG.log"));
+    const auto about = std::find(messages.begin(), messages.end(), "About to count Data Files");
+    ASSERT_NE(about, messages.end());
+    ASSERT_NE(about + 1, messages.end());
+    EXPECT_EQ(*(about + 1), "Found 1 Data Files");
     EXPECT_EQ(run.CloseAndWait(), 0);
 }
 
