@@ -46,9 +46,14 @@ public:
         for (int i = 0; i < kEventsInMonth; ++i) {
             char head[64];
             const int day = 1 + i % 30, minutes = (i * 37) % 1440;
-            std::snprintf(head, sizeof head, "D200406%02d%04d\x1F" "200406%02d\x1FPhone\x1F%02d%02d\x1F" "30\x1F", day,
-                          1 + i / 30, day, minutes / 60, minutes % 60);
-            bytes += std::string(head) + "Call\x1F" "fred\x1F\x1F\x1F\x1F\x1FNormal\x1F\x1FOffice\x1F" +
+            std::snprintf(head, sizeof head,
+                          "D200406%02d%04d\x1F"
+                          "200406%02d\x1FPhone\x1F%02d%02d\x1F"
+                          "30\x1F",
+                          day, 1 + i / 30, day, minutes / 60, minutes % 60);
+            bytes += std::string(head) +
+                     "Call\x1F"
+                     "fred\x1F\x1F\x1F\x1F\x1FNormal\x1F\x1FOffice\x1F" +
                      "Meeting about item " + std::to_string(i) + "\x1F\r\n";
         }
         const std::string file = Data("D200406.dat");
@@ -65,7 +70,9 @@ benchmark::Counter perUnit(double units) {
     return benchmark::Counter(units, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
-orbidex::VbDate june5() { return orbidex::DateSerial(2004, 6, 5); }
+orbidex::VbDate june5() {
+    return orbidex::DateSerial(2004, 6, 5);
+}
 
 void BM_LoadDiaryData(benchmark::State& state) {
     BenchProgram program;
@@ -85,7 +92,8 @@ void BM_SaveDiaryArray(benchmark::State& state) {
 void BM_getUniqueID(benchmark::State& state) {
     BenchProgram program;
     const std::string file = program.WriteBusyJune();
-    for (auto _ : state) benchmark::DoNotOptimize(orbidex::glbEvents.getUniqueID(file, june5(), orbidex::kFieldDelimiter));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(orbidex::glbEvents.getUniqueID(file, june5(), orbidex::kFieldDelimiter));
     state.counters["time_per_event"] = perUnit(kEventsInMonth);
 }
 
@@ -98,7 +106,8 @@ void BM_CreateDiaryDataFileList(benchmark::State& state) {
         orbidex::glbEvents.GetDiaryFileNameForDate(month);
     const bool allFiles = state.range(0) != 0;
     std::vector<std::string> files;
-    for (auto _ : state) benchmark::DoNotOptimize(orbidex::glbEvents.CreateDiaryDataFileList(first, last, files, allFiles));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(orbidex::glbEvents.CreateDiaryDataFileList(first, last, files, allFiles));
     state.counters["time_per_file"] = perUnit(kYearsOfFiles * 12);
 }
 

@@ -16,7 +16,8 @@ Currency Currency::FromNumber(double value) {
 std::string Currency::Text() const {
     const bool negative = tenThousandths < 0;
     // Work on the magnitude as unsigned so that the lowest value negates safely.
-    const uint64_t magnitude = negative ? 0 - static_cast<uint64_t>(tenThousandths) : static_cast<uint64_t>(tenThousandths);
+    const uint64_t magnitude =
+        negative ? 0 - static_cast<uint64_t>(tenThousandths) : static_cast<uint64_t>(tenThousandths);
     std::string text = std::to_string(magnitude / 10000);
     uint64_t fraction = magnitude % 10000;
     if (fraction != 0) {

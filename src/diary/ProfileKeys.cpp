@@ -46,7 +46,7 @@ void WriteProfileKey(const std::string& file, const std::string& section, const 
                      const std::string& value) {
     std::vector<std::string> lines = fileLines(file);
     const std::string entry = key + "=" + value;
-    long sectionStart = -1;  // index of the section's heading
+    long sectionStart = -1;   // index of the section's heading
     long lastOfSection = -1;  // index of the section's last non-blank line
     for (long i = 0; i < static_cast<long>(lines.size()); ++i) {
         const std::string name = sectionName(lines[i]);

@@ -19,20 +19,32 @@ using Field = std::string cDiaryRecord::*;
 
 // The fields of the event line, in line order.
 constexpr std::array<Field, 15> kLineFields = {
-    &cDiaryRecord::ID,        &cDiaryRecord::DateEvent,  &cDiaryRecord::Reference,      &cDiaryRecord::TimeEvent,
-    &cDiaryRecord::length,    &cDiaryRecord::Action,     &cDiaryRecord::ContactID,      &cDiaryRecord::URL,
-    &cDiaryRecord::JobToDoID, &cDiaryRecord::DateRemind, &cDiaryRecord::TimeRemind,     &cDiaryRecord::Priority,
+    &cDiaryRecord::ID,        &cDiaryRecord::DateEvent,       &cDiaryRecord::Reference,  &cDiaryRecord::TimeEvent,
+    &cDiaryRecord::length,    &cDiaryRecord::Action,          &cDiaryRecord::ContactID,  &cDiaryRecord::URL,
+    &cDiaryRecord::JobToDoID, &cDiaryRecord::DateRemind,      &cDiaryRecord::TimeRemind, &cDiaryRecord::Priority,
     &cDiaryRecord::status,    &cDiaryRecord::ActionToPerform, &cDiaryRecord::details};
 
 // Every text field that AssignRecord copies or blanks.
-constexpr std::array<Field, 20> kTextFields = {
-    &cDiaryRecord::ID,          &cDiaryRecord::DateEvent,     &cDiaryRecord::TimeEvent,
-    &cDiaryRecord::DateCreated, &cDiaryRecord::timeCreated,   &cDiaryRecord::UserCreatedBy,
-    &cDiaryRecord::UserOwnedBy, &cDiaryRecord::details,       &cDiaryRecord::group,
-    &cDiaryRecord::length,      &cDiaryRecord::Reference,     &cDiaryRecord::Action,
-    &cDiaryRecord::ActionToPerform, &cDiaryRecord::ContactID, &cDiaryRecord::URL,
-    &cDiaryRecord::JobToDoID,   &cDiaryRecord::Priority,      &cDiaryRecord::status,
-    &cDiaryRecord::DateRemind,  &cDiaryRecord::TimeRemind};
+constexpr std::array<Field, 20> kTextFields = {&cDiaryRecord::ID,
+                                               &cDiaryRecord::DateEvent,
+                                               &cDiaryRecord::TimeEvent,
+                                               &cDiaryRecord::DateCreated,
+                                               &cDiaryRecord::timeCreated,
+                                               &cDiaryRecord::UserCreatedBy,
+                                               &cDiaryRecord::UserOwnedBy,
+                                               &cDiaryRecord::details,
+                                               &cDiaryRecord::group,
+                                               &cDiaryRecord::length,
+                                               &cDiaryRecord::Reference,
+                                               &cDiaryRecord::Action,
+                                               &cDiaryRecord::ActionToPerform,
+                                               &cDiaryRecord::ContactID,
+                                               &cDiaryRecord::URL,
+                                               &cDiaryRecord::JobToDoID,
+                                               &cDiaryRecord::Priority,
+                                               &cDiaryRecord::status,
+                                               &cDiaryRecord::DateRemind,
+                                               &cDiaryRecord::TimeRemind};
 
 // A length is negative when the text starts with a minus sign and a digit that is not 0
 // somewhere in the digits that follow.
@@ -47,7 +59,9 @@ bool allBlank(const std::string& a, const std::string& b, const std::string& c, 
     return Trim(a).empty() && Trim(b).empty() && Trim(c).empty() && Trim(d).empty();
 }
 
-std::string twoDigits(int value) { return FormatNumber(value, "00"); }
+std::string twoDigits(int value) {
+    return FormatNumber(value, "00");
+}
 
 }  // namespace
 
@@ -138,9 +152,9 @@ std::string cDiaryRecord::FormatDiaryRecordForNetwork(const cDiaryRecord& record
     // The empty test looks at the reminder time where the line writer looks at the
     // event's time; servers have always seen it so.
     if (allBlank(record.ID, record.Reference, record.TimeRemind, record.details)) {
-        glbLog.log("This record does not have an id - " + record.DateRemind + " " + record.TimeRemind + " " +
-                       record.details,
-                   3);
+        glbLog.log(
+            "This record does not have an id - " + record.DateRemind + " " + record.TimeRemind + " " + record.details,
+            3);
         return "";
     }
     // The usage test is made on this record, the others on `record`.
@@ -154,10 +168,10 @@ std::string cDiaryRecord::FormatDiaryRecordForNetwork(const cDiaryRecord& record
     const bool shareWhat = level == "3" || level == "4";
     std::string line;
     for (Field f : kLineFields) {
-        const bool always = f == &cDiaryRecord::ID || f == &cDiaryRecord::DateEvent ||
-                            f == &cDiaryRecord::TimeEvent || f == &cDiaryRecord::length;
-        const bool what = f == &cDiaryRecord::JobToDoID || f == &cDiaryRecord::Priority ||
-                          f == &cDiaryRecord::status || f == &cDiaryRecord::details;
+        const bool always = f == &cDiaryRecord::ID || f == &cDiaryRecord::DateEvent || f == &cDiaryRecord::TimeEvent ||
+                            f == &cDiaryRecord::length;
+        const bool what = f == &cDiaryRecord::JobToDoID || f == &cDiaryRecord::Priority || f == &cDiaryRecord::status ||
+                          f == &cDiaryRecord::details;
         const bool shown = always || (what ? shareWhat : shareWhere);
         if (shown) line.append(record.*f);
         line.append(delimiter);
@@ -191,10 +205,16 @@ bool cDiaryRecord::IsDiaryEventPCUsage() const {
     return Reference == "PCFile" && (Action == "Usage" || Action == "PCUsage");
 }
 
-bool cDiaryRecord::IsDiaryEventPrivate() const { return status == "Private"; }
+bool cDiaryRecord::IsDiaryEventPrivate() const {
+    return status == "Private";
+}
 
-bool cDiaryRecord::isDiaryRecordMeeting() const { return Left(Action, 7) == "Meeting" || Left(Reference, 7) == "Meeting"; }
+bool cDiaryRecord::isDiaryRecordMeeting() const {
+    return Left(Action, 7) == "Meeting" || Left(Reference, 7) == "Meeting";
+}
 
-void cDiaryRecord::Delete() { platform().MsgBox("TODO - delete the old event from the diary", vbOKOnly, ""); }
+void cDiaryRecord::Delete() {
+    platform().MsgBox("TODO - delete the old event from the diary", vbOKOnly, "");
+}
 
 }  // namespace orbidex

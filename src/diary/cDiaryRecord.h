@@ -16,28 +16,28 @@ class cDiaryRecord {
 public:
     // Fields, in the order of the record.  The event line holds 15 of them (see
     // FormatDiaryRecordAsCSV); the others live in memory only.
-    std::string ID;            ///< "D" + yyyymmdd + four digits
-    std::string DateEvent;     ///< "yyyymmdd"
-    std::string TimeEvent;     ///< "hhmm", 24 hours
+    std::string ID;         ///< "D" + yyyymmdd + four digits
+    std::string DateEvent;  ///< "yyyymmdd"
+    std::string TimeEvent;  ///< "hhmm", 24 hours
     std::string DateCreated;
     std::string timeCreated;
     std::string UserCreatedBy;
     std::string UserOwnedBy;
     Currency AmountDebit;
     Currency AmountCredit;
-    std::string details;       ///< the text of the event, one line
+    std::string details;  ///< the text of the event, one line
     std::string group;
-    std::string length;        ///< minutes, as decimal text
-    std::string Reference;     ///< also the marker of generated events
-    std::string Action;        ///< also a marker
+    std::string length;           ///< minutes, as decimal text
+    std::string Reference;        ///< also the marker of generated events
+    std::string Action;           ///< also a marker
     std::string ActionToPerform;  ///< the location
     std::string ContactID;
     std::string URL;
     std::string JobToDoID;
     std::string Priority;
-    std::string status;        ///< "Private" marks a private event
-    std::string DateRemind;    ///< "yyyymmdd" or ""
-    std::string TimeRemind;    ///< "hhmm" or ""
+    std::string status;      ///< "Private" marks a private event
+    std::string DateRemind;  ///< "yyyymmdd" or ""
+    std::string TimeRemind;  ///< "hhmm" or ""
 
     bool IsPrivate() const { return isPrivate_; }
     void IsPrivate(bool value) { isPrivate_ = value; }

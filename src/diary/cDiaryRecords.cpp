@@ -26,7 +26,9 @@ bool cDiaryRecords::IsEmptySlot(long index) const {
     return index < 0 || index > totEvents() || slots_[static_cast<size_t>(index)] == nullptr;
 }
 
-void cDiaryRecords::SetUpperBound(long upperBound) { slots_.resize(static_cast<size_t>(std::max(upperBound + 1, 0L))); }
+void cDiaryRecords::SetUpperBound(long upperBound) {
+    slots_.resize(static_cast<size_t>(std::max(upperBound + 1, 0L)));
+}
 
 cDiaryRecord& cDiaryRecords::CreateRecordAt(long index) {
     if (index < 0 || index > totEvents()) return events(index);
@@ -46,8 +48,8 @@ long cDiaryRecords::SelectDiaryRecordIndex(VbDate date, const std::string& time,
     long found = -1;
     for (long i = 0; i <= totEvents(); ++i) {
         if (IsEmptySlot(i)) {
-            glbLog.log("invlalid object here in SelectDiaryRecordIndex i=" + CStr(i) + " from tot events = " +
-                           CStr(gIntTotalEvents),
+            glbLog.log("invlalid object here in SelectDiaryRecordIndex i=" + CStr(i) +
+                           " from tot events = " + CStr(gIntTotalEvents),
                        3);
             continue;
         }

@@ -27,7 +27,9 @@ std::vector<std::string> sortedWithoutCase(std::vector<std::string> names) {
     return names;
 }
 
-VbDate firstOfNextMonth(VbDate date) { return DateSerial(Year(date), Month(date) + 1, 1); }
+VbDate firstOfNextMonth(VbDate date) {
+    return DateSerial(Year(date), Month(date) + 1, 1);
+}
 
 }  // namespace
 
@@ -37,7 +39,9 @@ std::string cDiaryRecords::stampOf(const std::string& file) {
     return FormatDate(written, "yyyy-mm-dd hh:mm:ss") + " " + std::to_string(FileLength(file));
 }
 
-std::string cDiaryRecords::diaryFileName(VbDate date) const { return gStrDataPath + "D" + FormatDate(date, "yyyymm") + ".dat"; }
+std::string cDiaryRecords::diaryFileName(VbDate date) const {
+    return gStrDataPath + "D" + FormatDate(date, "yyyymm") + ".dat";
+}
 
 std::string cDiaryRecords::GetDiaryFileNameForDate(VbDate date) {
     const std::string name = diaryFileName(date);

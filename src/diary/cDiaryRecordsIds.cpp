@@ -15,7 +15,9 @@ namespace orbidex {
 
 namespace {
 
-std::string twoDigits(int value) { return FormatNumber(value, "00"); }
+std::string twoDigits(int value) {
+    return FormatNumber(value, "00");
+}
 
 }  // namespace
 

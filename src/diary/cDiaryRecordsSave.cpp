@@ -17,7 +17,9 @@ namespace {
 const char* const kSaveRule = "-----------------------------------------";
 
 // The two characters before ".dat": the month of a monthly file's name.
-std::string monthOfFileName(const std::string& file) { return Mid(file, Len(file) - 5, 2); }
+std::string monthOfFileName(const std::string& file) {
+    return Mid(file, Len(file) - 5, 2);
+}
 
 }  // namespace
 
@@ -80,9 +82,10 @@ bool cDiaryRecords::sizeGuardAllows(long upperBound) {
     // A handful of events about to replace a large file hints at the wrong file.
     const long long fileLength = FileLength(gStrDiaryDataFile);
     if (upperBound < 5 || static_cast<long long>(upperBound) * 250 >= fileLength) return true;
-    glbLog.log("DANGER - YOU MAY BE OVERWRITING THE WRONG FILE - the number of events seems a little low to be "
-               "overwriting such a large file",
-               3);
+    glbLog.log(
+        "DANGER - YOU MAY BE OVERWRITING THE WRONG FILE - the number of events seems a little low to be "
+        "overwriting such a large file",
+        3);
     const int answer = platform().MsgBox(
         "DANGER - YOU MAY BE OVERWRITING THE WRONG FILE - PRESS CANCEL TO ABORT (or press OK if you think its ok)",
         vbOKCancel, "Warning the number of events seems a little low to be overwriting such a large file");

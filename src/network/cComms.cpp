@@ -16,7 +16,9 @@ cComms glbComms;
 namespace {
 
 // How much of each event other users may see: "0" nothing to "4" everything.
-std::string securityLevel() { return Trim(ReadProfileKey(gStrIniFile, "Network", "security")); }
+std::string securityLevel() {
+    return Trim(ReadProfileKey(gStrIniFile, "Network", "security"));
+}
 
 }  // namespace
 

@@ -38,7 +38,8 @@ TEST_F(DiaryStartTest, AFirstStartMakesThisMonthsFileLoadsItAndCountsIt) {
     EXPECT_EQ(*(about + 1), "Found 1 Data Files");
 
     EXPECT_EQ(std::tie(gCurrentEvent.DateEvent, gCurrentEvent.TimeEvent, gCurrentEvent.length),
-              std::make_tuple("20040605", "0930", "")) << "a new record, not one made by init";
+              std::make_tuple("20040605", "0930", ""))
+        << "a new record, not one made by init";
     EXPECT_EQ(std::tie(glbSearchEvent.DateEvent, glbOldEvent.length), std::make_tuple("20040605", "1"));
 
     EXPECT_EQ(glbRecurring.fname(), Stored("data\\recurring.dat"));

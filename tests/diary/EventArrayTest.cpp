@@ -86,7 +86,8 @@ TEST_F(EventArrayTest, AddingAppendsUnderANewIdentifierWithoutTouchingTheArray) 
 
     const std::string appended = EventLine("D200406050002", "20040605", "1400", "From Jo");
     EXPECT_EQ(event.ID, "D200406050002");
-    EXPECT_EQ(ReadBytes(Data("D200406.dat")), EventLine("D200406050001", "20040605", "0900", "Loaded") + "\r\n" + appended + "\r\n");
+    EXPECT_EQ(ReadBytes(Data("D200406.dat")),
+              EventLine("D200406050001", "20040605", "0900", "Loaded") + "\r\n" + appended + "\r\n");
     EXPECT_EQ(gIntTotalEvents, 1);
     EXPECT_EQ(glbEvents.totEvents(), 1);
     EXPECT_TRUE(Logged(", AddDiaryRecord (File Append) to " + Data("D200406.dat") + " - " + appended + "\r\n"));

@@ -73,8 +73,12 @@ TEST_F(MonthlyFileTest, ViewsOfSevenAndFourteenDaysLoadTheNeighbouringMonthWhenT
     WriteLines("D200406.dat", {EventLine("D200406010001", "20040601", "0900", "June")});
     // days shown, date, the second month's file ("" for none)
     const std::vector<std::tuple<int, VbDate, std::string>> cases = {
-        {7, June(3), "D200405.dat"}, {7, June(28), "D200407.dat"}, {7, June(15), ""},
-        {14, June(15), ""},          {14, DateSerial(2004, 4, 17), "D200405.dat"}, {1, June(1), ""},
+        {7, June(3), "D200405.dat"},
+        {7, June(28), "D200407.dat"},
+        {7, June(15), ""},
+        {14, June(15), ""},
+        {14, DateSerial(2004, 4, 17), "D200405.dat"},
+        {1, June(1), ""},
     };
     for (const auto& [days, date, second] : cases) {
         glbNumDaysToDisplay = static_cast<int16_t>(days);
@@ -92,8 +96,9 @@ TEST_F(MonthlyFileTest, ViewsOfSevenAndFourteenDaysLoadTheNeighbouringMonthWhenT
 
     glbEvents.LoadExtraDiaryData(DateSerial(2004, 7, 1));
     EXPECT_EQ(gIntTotalEvents, 2);
-    EXPECT_TRUE(Logged(", WARNING - LoadExtraDiaryData function called for 2004-07-01 but exited function without "
-                       "loading data because the flag 'gBoolExtraDiaryDataLoaded' was set to TRUE'\r\n"));
+    EXPECT_TRUE(
+        Logged(", WARNING - LoadExtraDiaryData function called for 2004-07-01 but exited function without "
+               "loading data because the flag 'gBoolExtraDiaryDataLoaded' was set to TRUE'\r\n"));
 }
 
 TEST_F(MonthlyFileTest, InitDiaryCompletesThePathAndMakesThisMonthsFile) {
@@ -186,7 +191,8 @@ TEST_F(MonthlyFileTest, TheListOfARangeMakesTheMissingMonthsAndTakesOnlyThose) {
 
     gStrDataPath = Stored("nowhere\\");
     EXPECT_EQ(glbEvents.CreateDiaryDataFileList(June(1), June(1), files, false), 0);
-    EXPECT_EQ(platform_.MessageTexts(), std::vector<std::string>{"There are no datafiles in the directory " + gStrDataPath});
+    EXPECT_EQ(platform_.MessageTexts(),
+              std::vector<std::string>{"There are no datafiles in the directory " + gStrDataPath});
 }
 
 TEST_F(MonthlyFileTest, ReadingAFileToAnArrayCanLeaveOutUsageEvents) {

@@ -1,6 +1,5 @@
-#include "diary/ProfileKeys.h"
-
 #include "DiaryFixture.h"
+#include "diary/ProfileKeys.h"
 
 using namespace orbidex;
 

@@ -80,12 +80,13 @@ TEST_F(SaveDiaryArrayTest, WithNoBlankPairAtTheFrontTheUserDecidesAndYesHoldsFor
     EXPECT_EQ(platform_.Transcript()[0].title, "Duplicate ID Found");
     EXPECT_EQ(platform_.Transcript()[0].text, a2 + " has duplicate id - do you want to delete it ?");
     EXPECT_EQ(platform_.Transcript()[1].text, b2 + " has duplicate id - do you want to delete it ?");
-    EXPECT_EQ(ReadBytes(Data("D200406.dat")), kMorning + "\r\n" + a2 + "\r\n" + b1 + "\r\n" + c1 + "\r\n" + c2 + "\r\n");
+    EXPECT_EQ(ReadBytes(Data("D200406.dat")),
+              kMorning + "\r\n" + a2 + "\r\n" + b1 + "\r\n" + c1 + "\r\n" + c2 + "\r\n");
     EXPECT_TRUE(Logged(", User deleted duplicate ID#" + kMorning + "\r\n")) << "also after No";
 
     // A usage event as the second twin settles the answer without a question.
-    const std::string usage = Fields({"D200406050001", "20040605", "PCFile", "1500", "5", "Usage", "", "", "", "", "",
-                                      "", "", "", "word.exe"});
+    const std::string usage = Fields(
+        {"D200406050001", "20040605", "PCFile", "1500", "5", "Usage", "", "", "", "", "", "", "", "", "word.exe"});
     const std::string first = EventLine("D200406050001", "20040605", "0900", "Sorts first", "Admin");
     LoadJune({usage, b1, b2});
     glbEvents.CreateRecordAt(glbEvents.totEvents()).GetDiaryRecordFromText(first);
@@ -112,9 +113,11 @@ TEST_F(SaveDiaryArrayTest, FiveEventsOverMoreThan250BytesEachAskBeforeOverwritin
     platform_.QueueMsgBoxAnswer(vbCancel);
     glbEvents.SaveDiaryArray(kFieldDelimiter, nullptr);
     ASSERT_EQ(platform_.Transcript().size(), 1U);
-    EXPECT_EQ(platform_.Transcript()[0].title, "Warning the number of events seems a little low to be overwriting such a large file");
-    EXPECT_EQ(platform_.Transcript()[0].text,
-              "DANGER - YOU MAY BE OVERWRITING THE WRONG FILE - PRESS CANCEL TO ABORT (or press OK if you think its ok)");
+    EXPECT_EQ(platform_.Transcript()[0].title,
+              "Warning the number of events seems a little low to be overwriting such a large file");
+    EXPECT_EQ(
+        platform_.Transcript()[0].text,
+        "DANGER - YOU MAY BE OVERWRITING THE WRONG FILE - PRESS CANCEL TO ABORT (or press OK if you think its ok)");
     EXPECT_EQ(ReadBytes(Data("D200406.dat")), large) << "cancel keeps the file";
     EXPECT_FALSE(FileExists(Data("D200406.dat_NET"))) << "and hands nothing over";
 

@@ -1,9 +1,8 @@
-#include "diary/cDiaryRecord.h"
-
 #include <tuple>
 
 #include "DiaryFixture.h"
 #include "EventLines.h"
+#include "diary/cDiaryRecord.h"
 #include "foundation/ProgramState.h"
 
 using namespace orbidex;
@@ -11,9 +10,10 @@ using orbidex::test::Fields;
 
 namespace {
 
-const std::vector<std::string> kAllFields = {"D200406050003", "20040605", "Phone",  "0930", "45",
-                                             "Call",          "fred",     "C:\\b.doc", "T200406010001", "20040605",
-                                             "0915",          "High",     "Open",   "Office", "Ring the bank \xE9t\xE9"};
+const std::vector<std::string> kAllFields = {
+    "D200406050003", "20040605", "Phone",     "0930",          "45",
+    "Call",          "fred",     "C:\\b.doc", "T200406010001", "20040605",
+    "0915",          "High",     "Open",      "Office",        "Ring the bank \xE9t\xE9"};
 
 cDiaryRecord recordOf(const std::string& line) {
     cDiaryRecord r;
@@ -56,7 +56,8 @@ TEST_F(DiaryRecordTest, AShortLineFillsItsLastFieldsFromItsFirstOnes) {
 
     // After the last delimiter a field repeats the one before it, then the search
     // starts again at the front of the line.
-    EXPECT_EQ(lineFields(recordOf("A\x1F" "20\x1F")),
+    EXPECT_EQ(lineFields(recordOf("A\x1F"
+                                  "20\x1F")),
               (std::vector<std::string>{"A", "20", "20", "A", "20", "20", "A", "20", "20", "A", "20", "20", "A", "20",
                                         "20"}));
     EXPECT_EQ(lineFields(recordOf("no delimiters")), std::vector<std::string>(15, ""));
@@ -65,7 +66,8 @@ TEST_F(DiaryRecordTest, AShortLineFillsItsLastFieldsFromItsFirstOnes) {
 
 TEST_F(DiaryRecordTest, ALengthThatIsNegativeOrTooLongBecomesThirtyMinutes) {
     auto lengthRead = [](const std::string& length) {
-        return recordOf(orbidex::test::EventLine("D200406050001", "20040605", "0930", "Dentist", "Phone", length)).length;
+        return recordOf(orbidex::test::EventLine("D200406050001", "20040605", "0930", "Dentist", "Phone", length))
+            .length;
     };
     EXPECT_EQ(lengthRead("999"), "999");
     EXPECT_EQ(lengthRead("abc"), "abc");
@@ -103,8 +105,9 @@ TEST_F(DiaryRecordTest, TheNetworkFormShowsWhatEachSecurityLevelAllows) {
 
     // level, normal event, private event, usage event
     const std::vector<std::tuple<std::string, std::string, std::string, std::string>> expected = {
-        {"0", "", "", ""},          {"", "", "", ""},           {"1", level1 + "#", "", ""},
-        {" 2 ", level2 + "#", "", ""}, {"3", all + "#", "", ""}, {"4", all + "#", "", usage.FormatDiaryRecordAsCSV("|", "#")},
+        {"0", "", "", ""},           {"", "", "", ""},
+        {"1", level1 + "#", "", ""}, {" 2 ", level2 + "#", "", ""},
+        {"3", all + "#", "", ""},    {"4", all + "#", "", usage.FormatDiaryRecordAsCSV("|", "#")},
         {"7", "#", "", ""},
     };
     for (const auto& [level, forNormal, forPrivate, forUsage] : expected) {
