@@ -1,6 +1,10 @@
 // The long-lived objects of the program, put back to their start by ResetProgramState.
 #include "config/clsConfigDiary.h"
+#include "diary/cDiaryRecord.h"
+#include "diary/cDiaryRecords.h"
+#include "diary/cDiaryRecurring.h"
 #include "foundation/ProgramState.h"
+#include "network/cComms.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/frmClientDiaryMain.h"
 
@@ -11,6 +15,12 @@ void ResetProgramObjects() {
     gListViewHeadings = cDiaryRecord();
     gTaskHeadings = cDiaryRecord();
     glbCmd = clsDiaryCommand();
+    glbEvents = cDiaryRecords();
+    glbComms = cComms();
+    glbRecurring = cDiaryRecurring();
+    gCurrentEvent = cDiaryRecord();
+    glbSearchEvent = cDiaryRecord();
+    glbOldEvent = cDiaryRecord();
     ResetMainForm();
 }
 

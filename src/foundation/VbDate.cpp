@@ -12,7 +12,7 @@ namespace orbidex {
 namespace {
 
 // Days from 1970-01-01 to a civil date, and back (proleptic Gregorian calendar).
-long long daysFromCivil(long long y, unsigned m, unsigned d) {
+constexpr long long daysFromCivil(long long y, unsigned m, unsigned d) {
     y -= m <= 2;
     const long long era = (y >= 0 ? y : y - 399) / 400;
     const unsigned yoe = static_cast<unsigned>(y - era * 400);
@@ -40,7 +40,8 @@ Civil civilFromDays(long long z) {
     return {static_cast<int>(y + (m <= 2)), static_cast<int>(m), static_cast<int>(d)};
 }
 
-const long long kVbEpoch = daysFromCivil(1899, 12, 30);
+// Constant at compile time, so that dates work in the initialisers of other files too.
+constexpr long long kVbEpoch = daysFromCivil(1899, 12, 30);
 
 // A VB date split into its day number and the seconds of its time, rounded to the
 // nearest second as VB does.

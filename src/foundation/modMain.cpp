@@ -1,7 +1,13 @@
 #include "foundation/modMain.h"
 
+#include <vector>
+
 #include "config/clsConfigDiary.h"
+#include "diary/cDiaryRecord.h"
+#include "diary/cDiaryRecords.h"
+#include "diary/cDiaryRecurring.h"
 #include "foundation/ProgramState.h"
+#include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
 #include "foundation/clsPath.h"
@@ -10,6 +16,11 @@
 namespace orbidex {
 
 namespace {
+
+void blankSpareRecords() {
+    glbSearchEvent.init("", "", "", "", Currency{}, "");
+    glbOldEvent.init("", "", "", "", Currency{}, "");
+}
 
 void findDataFolder() {
     gStrDataPath = platform().ProgramFolder() + "\\data\\";
@@ -34,13 +45,34 @@ void readSettings() {
     glbConfig.ReadAllSettings();
 }
 
+// Finds the monthly files and loads the month of today.
+void loadDiary() {
+    glbEvents.InitDiary(&MainForm(), gStrIniFile);
+    glbEvents.LoadDiaryData(Today());
+    glbRecurring.fname(gStrDataPath + "recurring.dat");
+    glbRecurring.LoadRecurringEvents();
+    gCurrentEvent = cDiaryRecord();
+    gCurrentEvent.DateEvent = FormatDate(Now(), "yyyymmdd");
+    gCurrentEvent.TimeEvent = FormatDate(Now(), "hhmm");
+}
+
+void countDataFiles() {
+    glbLog.log("About to count Data Files", 0);
+    std::vector<std::string> files;
+    const long count = glbEvents.CreateDiaryDataFileList(Today(), Today(), files, true);
+    glbLog.log("Found " + CStr(count) + " Data Files", 0);
+}
+
 }  // namespace
 
 void modMain(const std::string& networkKind) {
     NETWORK_STRING = networkKind;
+    blankSpareRecords();
     findDataFolder();
     openLog();
     readSettings();
+    loadDiary();
+    countDataFiles();
     MainForm().Show(false);
 }
 

@@ -1,11 +1,15 @@
 #include "screen/clsDiaryCommand.h"
 
+#include "network/cComms.h"
 #include "platform/Platform.h"
 
 namespace orbidex {
 
 clsDiaryCommand glbCmd;
 
-void clsDiaryCommand::CommandExit() { platform().EndProgram(0); }
+void clsDiaryCommand::CommandExit() {
+    glbComms.Logoff();
+    platform().EndProgram(0);
+}
 
 }  // namespace orbidex

@@ -3,6 +3,7 @@
 // its handlers dispatching to clsDiaryCommand.
 
 #include "controls/Form.h"
+#include "controls/MonthView.h"
 
 namespace orbidex {
 
@@ -12,6 +13,8 @@ public:
 
     /// Closing the window by any means ends the program through CommandExit.
     void Form_Unload(int& cancel) override;
+
+    MonthView MonthView1;
 };
 
 /// The main window, created at its first use.

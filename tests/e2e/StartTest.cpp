@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDate>
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -78,6 +79,20 @@ TEST_F(StartTest, OrbidexStartsLogsAndEndsWhenClosed) {
     EXPECT_EQ(run.CloseAndWait(), 0);
 }
 
+TEST_F(StartTest, AStartMakesThisMonthsFileAndCountsTheDataFiles) {
+    ProgramRun run(ORBIDEX_EXE);
+    ASSERT_TRUE(run.Start());
+    ASSERT_TRUE(run.WaitForFileContaining("data/OX_LOG.log", " Data Files\r\n"));
+    const std::string month = "data/D" + QDate::currentDate().toString(QStringLiteral("yyyyMM")).toStdString() + ".dat";
+    EXPECT_EQ(run.ReadFile(month), "\r\n");
+    const auto messages = logMessages(run.ReadFile("data/OX_LOG.log"));
+    const auto about = std::find(messages.begin(), messages.end(), "About to count Data Files");
+    ASSERT_NE(about, messages.end());
+    ASSERT_NE(about + 1, messages.end());
+    EXPECT_EQ(*(about + 1), "Found 1 Data Files");
+    EXPECT_EQ(run.CloseAndWait(), 0);
+}
+
 TEST_F(StartTest, TheFirstStartWritesTheWholeSettingsFile) {
     ProgramRun run(ORBIDEX_EXE);
     ASSERT_TRUE(run.Start());
@@ -115,7 +130,8 @@ TEST_F(StartTest, TheClientKindStartsWithAnExistingSettingsFile) {
 TEST_F(StartTest, ASecondStartShowsItsMessageAndLeavesTheDataAlone) {
     ProgramRun first(ORBIDEX_EXE);
     ASSERT_TRUE(first.Start());
-    ASSERT_TRUE(first.WaitForFileContaining("data/OX_LOG.log", kSettingsRead));
+    // The end of the start-up: every file of the first copy is written.
+    ASSERT_TRUE(first.WaitForFileContaining("data/OX_LOG.log", " Data Files\r\n"));
     const auto before = dataFiles(first);
     ASSERT_EQ(before.count("orbidex.ini"), 1U);
     const long logLines = static_cast<long>(SplitLines(first.ReadFile("data/OX_LOG.log")).size());

@@ -1,0 +1,132 @@
+#pragma once
+// The event store: the events of the month on screen (and of a second month when a
+// view crosses a month end) in one array, the monthly files they come from and go
+// back to, and the identifiers of new events.
+//
+// A month lives in gStrDataPath + "D" + yyyymm + ".dat", one event line per line.  It
+// is loaded whole and saved whole; additions from elsewhere are appended.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "diary/cDiaryRecord.h"
+#include "platform/Platform.h"
+
+namespace orbidex {
+
+class frmClientDiaryMain;
+
+class cDiaryRecords {
+public:
+    // The monthly files
+
+    /// Checks the data folder (asking the user if it is unusable), completes
+    /// gStrDataPath and the names of the other data files, and makes sure this
+    /// month's file exists.  An empty `settingsFile` means gStrIniFile.
+    void InitDiary(frmClientDiaryMain* mainForm, const std::string& settingsFile);
+    /// Asks for a folder when `path` cannot be written; a usable answer is stored in
+    /// the settings for the next start.  The running program keeps its path.
+    void ValidateDataPath(std::string path);
+    /// The month's file name; a missing file is created holding one line end.
+    std::string GetDiaryFileNameForDate(VbDate date);
+    /// Loads the month of `date` whole, and the neighbouring month when the view of
+    /// 7 or 14 days crosses a month end.
+    void LoadDiaryData(VbDate date);
+    /// Adds the events of the month of `date` behind those loaded.
+    void LoadExtraDiaryData(VbDate date);
+    /// Full names of the monthly files, from index 1: every file of the data folder
+    /// (`allFiles`), or those of the months from `fromDate` to `toDate`, which are
+    /// created if missing.  Returns the count.
+    long CreateDiaryDataFileList(VbDate fromDate, VbDate toDate, std::vector<std::string>& files, bool allFiles);
+    /// Reads a monthly file into `records` from index 1, leaving out blank lines and,
+    /// if asked, usage events.  Without `leaveOutUsage` only the result is of use.
+    /// Returns the number of events kept + 1.
+    long ReadDiaryFileToArray(const std::string& file, std::vector<cDiaryRecord>& records, bool leaveOutUsage);
+    /// Reloads the month shown in the calendar when the file changed on disk since
+    /// the last load or append.
+    void CheckDataFileAndReloadIfNeccesary();
+    /// Rewrites the loaded month from the array, sorted, after its guards; two loaded
+    /// months go to their two files.  `mainForm` may be null.
+    void SaveDiaryArray(std::string_view delimiter, frmClientDiaryMain* mainForm);
+    void SaveMultipleMonthsDiaryDataToDisk();
+    /// Writes every event in memory to D000101.DAT in the data folder.
+    void SaveDumpOfDiaryRecords();
+    /// The name the network side gives a monthly file: D200406.dat becomes X200406.dat.
+    std::string GetNetworkFileName(const std::string& localFile) const;
+    /// The older way to the data folder: an INI file beside the program, then the
+    /// settings file, then the user.
+    std::string GetDiaryDataPath();
+    /// The modification time and length of the file at the last load or append.
+    const std::string& FileStamp() const { return fileStamp_; }
+
+    // The event array.  Its upper bound is the number of events loaded, so its top
+    // slot is empty; slots emptied by changes stay until the next reload.
+
+    /// The array's upper bound.
+    long totEvents() const { return static_cast<long>(slots_.size()) - 1; }
+    /// The record at `index`.  An empty slot or an index beyond the array gives a
+    /// fresh blank record that is not stored; a negative index also shows a message.
+    cDiaryRecord& events(long index);
+    bool IsEmptySlot(long index) const;
+    /// Sets the upper bound, keeping the contents; new slots are empty.
+    void SetUpperBound(long upperBound);
+    /// Puts a new blank record at `index`, which must lie within the array.
+    cDiaryRecord& CreateRecordAt(long index);
+    /// Minutes of the events in the view.
+    int32_t totTime() const { return totTime_; }
+    void totTime(int32_t minutes) { totTime_ = minutes; }
+
+    // Identifiers
+
+    /// "D" + the year + `number` in 8 digits: the text form of a grid cell's event.
+    std::string IdConvertToString(VbDate date, long number) const;
+    /// The number in the last 8 characters of an identifier.
+    int32_t IdConvertToLong(const std::string& id) const;
+    /// The next free identifier of `date` in `file`.
+    std::string getUniqueID(const std::string& file, VbDate date, std::string_view delimiter);
+    /// The identifier after `lastID` for `date`: its sequence + 1 on the same date, 1 on another.
+    std::string createNextID(VbDate date, const std::string& lastID);
+
+    // Finding, adding and taking out
+
+    /// The first index with this ID, or -1.
+    long SelectDiaryRecordFromID(const std::string& id);
+    /// The event of that date and details, at that time if there is one; or -1.
+    long SelectDiaryRecordIndex(VbDate date, const std::string& time, const std::string& details);
+    /// Appends an event from elsewhere to the file of its month under a new ID,
+    /// unless the file in hand already holds it.  The array is untouched unless
+    /// `reload`.
+    void AddDiaryRecord(cDiaryRecord& record, bool reload = false, bool noServerCopy = false);
+    /// True when a line of gStrDiaryDataFile holds the three texts as fields.
+    bool DoesDiaryRecordAlreadyExist(const std::string& date, const std::string& time, const std::string& details);
+    /// Shifts the events above `index` down one place, shortens the array and saves.
+    void DeleteDiaryEventFromArray(long index);
+    /// Kept for its callers: the array stays in file order.
+    void SortDiaryArray();
+
+private:
+    /// The file's modification time and length as text; "" when it is missing.
+    static std::string stampOf(const std::string& file);
+    std::string diaryFileName(VbDate date) const;
+    long readLinesInto(const std::string& bytes, long from);
+    /// The number of events the loads left, also beyond what gIntTotalEvents can hold.
+    long loadedCount() const;
+    void setTotalEvents(long count);
+    void askAboutDuplicates(std::vector<std::string>& lines);
+    bool sizeGuardAllows(long upperBound);
+    void checkMonthOfFile(frmClientDiaryMain* mainForm);
+
+    std::vector<std::unique_ptr<cDiaryRecord>> slots_;
+    cDiaryRecord blank_;  ///< what events() gives for a slot that holds nothing
+    std::string fileStamp_;
+    frmClientDiaryMain* mainForm_ = nullptr;
+    std::string settingsFile_;
+    int32_t totTime_ = 0;
+};
+
+extern cDiaryRecords glbEvents;
+
+}  // namespace orbidex

@@ -1,0 +1,7 @@
+#include "diary/cDiaryRecurring.h"
+
+namespace orbidex {
+
+cDiaryRecurring glbRecurring;
+
+}  // namespace orbidex
