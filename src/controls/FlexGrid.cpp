@@ -361,7 +361,7 @@ bool FlexGrid::horizontalMergeAllowed() const { return MergeCells != flexMergeNe
 
 bool FlexGrid::mergesDown(long row, long col) const {
     if (!verticalMergeAllowed() || !MergeCol(col) || !validRow(row + 1)) return false;
-    if (IsFixed(row, col) != IsFixed(row + 1, col)) return false;
+    if ((row < fixedRows_) != (row + 1 < fixedRows_)) return false;  // a heading never merges into the body
     const std::string& text = cellAt(row, col)->text;
     if (text.empty() || text != cellAt(row + 1, col)->text) return false;
     const bool restricted = MergeCells == flexMergeRestrictColumns || MergeCells == flexMergeRestrictAll;
@@ -370,7 +370,7 @@ bool FlexGrid::mergesDown(long row, long col) const {
 
 bool FlexGrid::mergesRight(long row, long col) const {
     if (!horizontalMergeAllowed() || !MergeRow(row) || !validCol(col + 1)) return false;
-    if (IsFixed(row, col) != IsFixed(row, col + 1)) return false;
+    if ((col < fixedCols_) != (col + 1 < fixedCols_)) return false;
     const std::string& text = cellAt(row, col)->text;
     if (text.empty() || text != cellAt(row, col + 1)->text) return false;
     const bool restricted = MergeCells == flexMergeRestrictRows || MergeCells == flexMergeRestrictAll;

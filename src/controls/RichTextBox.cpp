@@ -82,6 +82,7 @@ void RichTextBox::replaceSelection(const std::string& text) {
     formatOf_.insert(formatOf_.begin() + static_cast<long>(start), text.size(), format);
     SelStart.setQuietly(static_cast<long>(start + text.size()));
     SelLength.setQuietly(0);
+    hasTypingFormat_ = false;  // the new text carries it now
     contentChanged();
 }
 
