@@ -131,8 +131,16 @@ public:
     void UserOLEDragDrop(const DataObject& data) { Raise(onOLEDragDrop, data); }
 
     // The view
-    /// Links the one view that draws this control; an empty callback unlinks it.
-    void SetViewCallback(ViewCallback callback) { view_ = std::move(callback); }
+    /// Links the one view that draws this control (`owner` names the view), in
+    /// place of any other; an empty callback unlinks it.
+    void SetViewCallback(ViewCallback callback, const void* owner = nullptr) {
+        view_ = std::move(callback);
+        viewOwner_ = owner;
+    }
+    /// Unlinks the view `owner`, if it is still the linked one.
+    void ReleaseView(const void* owner) {
+        if (viewOwner_ == owner) SetViewCallback(nullptr);
+    }
     bool HasView() const { return static_cast<bool>(view_); }
     void PropertyChanged(const void* property) override;
 
@@ -155,6 +163,7 @@ private:
     int index_ = -1;
     bool dragging_ = false;
     ViewCallback view_;
+    const void* viewOwner_ = nullptr;
 };
 
 }  // namespace orbidex

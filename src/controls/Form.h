@@ -99,7 +99,18 @@ public:
     void UnregisterControl(Control& control);
 
     // The window
-    void SetViewCallback(std::function<void(FormNotice)> callback) { view_ = std::move(callback); }
+    /// Links the window that shows this form (`owner` names it), in place of any other.
+    void SetViewCallback(std::function<void(FormNotice)> callback, const void* owner = nullptr) {
+        view_ = std::move(callback);
+        viewOwner_ = owner;
+    }
+    /// Unlinks the window `owner`, if it is still the linked one.
+    void ReleaseView(const void* owner) {
+        if (viewOwner_ == owner) {
+            SetViewCallback(nullptr);
+            popup_ = nullptr;
+        }
+    }
     bool HasView() const { return static_cast<bool>(view_); }
     void SetPopupHandler(std::function<void(Menu&)> handler) { popup_ = std::move(handler); }
     void PropertyChanged(const void* property) override;
@@ -116,6 +127,7 @@ private:
     bool showing_ = false;
     std::vector<Control*> controls_;
     std::function<void(FormNotice)> view_;
+    const void* viewOwner_ = nullptr;
     std::function<void(Menu&)> popup_;
 };
 
