@@ -7,8 +7,18 @@
 
 namespace orbidex {
 
+namespace {
+
+/// A tick box that takes a click anywhere on it, not only on the box and caption.
+class WholeCheckBox : public QCheckBox {
+protected:
+    bool hitButton(const QPoint& pos) const override { return rect().contains(pos); }
+};
+
+}  // namespace
+
 CheckBoxWidget::CheckBoxWidget(CheckBox& control, QWidget* parent)
-    : ControlWidget(control, parent), check_(control), box_(new QCheckBox) {
+    : ControlWidget(control, parent), check_(control), box_(new WholeCheckBox) {
     setInner(box_);
     box_->setTristate(true);
     connect(box_, &QCheckBox::clicked, this, [this] {

@@ -118,6 +118,7 @@ void ListViewWidget::build(bool report) {
         tree->setAllColumnsShowFocus(true);
         tree->header()->setSectionsMovable(false);
         tree->header()->setStretchLastSection(false);
+        tree->header()->setSectionsClickable(true);
         connect(tree->header(), &QHeaderView::sectionClicked, this, [this](int section) {
             if (!syncing() && model() != nullptr) list_.UserClickColumn(section + 1);
         });

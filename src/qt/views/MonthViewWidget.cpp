@@ -47,8 +47,8 @@ void MonthViewWidget::build(long rows, long columns) {
             connect(calendar, &QCalendarWidget::currentPageChanged, this, [this, index](int year, int month) {
                 if (syncing()) return;
                 // The user turned one calendar's page: the others follow it.
-                const QDate first = QDate(year, month, 1).addMonths(-static_cast<int>(index));
-                showMonthsFrom(first.year(), first.month());
+                firstShown_ = QDate(year, month, 1).addMonths(-static_cast<int>(index));
+                showMonthsFrom(firstShown_.year(), firstShown_.month());
             });
             layout_->addWidget(calendar, static_cast<int>(r), static_cast<int>(c));
             calendars_.push_back(calendar);
@@ -93,10 +93,11 @@ void MonthViewWidget::syncFromModel() {
         applyFont(calendar);
     }
     // The first calendar shows the month of the value, unless the value is shown already.
-    bool shown = false;
-    for (QCalendarWidget* calendar : calendars_)
-        shown = shown || (calendar->yearShown() == value.year() && calendar->monthShown() == value.month());
-    if (!shown) showMonthsFrom(value.year(), value.month());
+    const QDate first(firstShown_.year(), firstShown_.month(), 1);
+    const long months = static_cast<long>(calendars_.size());
+    if (!firstShown_.isValid() || value < first || value >= first.addMonths(static_cast<int>(months)))
+        firstShown_ = QDate(value.year(), value.month(), 1);
+    showMonthsFrom(firstShown_.year(), firstShown_.month());
 }
 
 QDate MonthViewWidget::dateAt(QPoint pos) const {

@@ -38,6 +38,7 @@ private:
     std::vector<QCalendarWidget*> calendars_;
     long rows_ = 0;
     long columns_ = 0;
+    QDate firstShown_;  ///< the first day of the month the first calendar shows
 };
 
 }  // namespace orbidex

@@ -7,8 +7,18 @@
 
 namespace orbidex {
 
+namespace {
+
+/// An option button that takes a click anywhere on it.
+class WholeRadioButton : public QRadioButton {
+protected:
+    bool hitButton(const QPoint& pos) const override { return rect().contains(pos); }
+};
+
+}  // namespace
+
 OptionButtonWidget::OptionButtonWidget(OptionButton& control, QWidget* parent)
-    : ControlWidget(control, parent), option_(control), radio_(new QRadioButton) {
+    : ControlWidget(control, parent), option_(control), radio_(new WholeRadioButton) {
     setInner(radio_);
     radio_->setAutoExclusive(false);  // the model keeps its group
     connect(radio_, &QRadioButton::clicked, this, [this] {

@@ -70,6 +70,8 @@ void RichTextBoxWidget::userSelected() {
     if (syncing() || model() == nullptr) return;
     const QTextCursor cursor = edit_->textCursor();
     const std::string text = rich_.Text;
+    // The caret moves before the text change is told: wait for the change.
+    if (edit_->document()->characterCount() - 1 != ToWidgetPosition(text, static_cast<long>(text.size()))) return;
     const long start = FromWidgetPosition(text, cursor.selectionStart());
     rich_.UserSelect(start, FromWidgetPosition(text, cursor.selectionEnd()) - start);
 }

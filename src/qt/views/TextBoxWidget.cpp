@@ -53,6 +53,9 @@ void TextBoxWidget::userSelected() {
         end = cursor.selectionEnd();
     }
     const std::string& text = text_.Text();
+    // The caret may move before the text change is told: wait for the change.
+    const int shownLength = line_ != nullptr ? static_cast<int>(line_->text().size()) : plain_->document()->characterCount() - 1;
+    if (shownLength != ToWidgetPosition(text, static_cast<long>(text.size()))) return;
     const long from = FromWidgetPosition(text, start);
     text_.UserSelect(from, FromWidgetPosition(text, end) - from);
 }
@@ -65,12 +68,14 @@ void TextBoxWidget::syncFromModel() {
     const int end = ToWidgetPosition(text, text_.SelStart + text_.SelLength);
     QWidget* edit = line_ != nullptr ? static_cast<QWidget*>(line_) : plain_;
     if (line_ != nullptr) {
-        if (line_->text() != shown) line_->setText(shown);
-        line_->setSelection(start, end - start);
         line_->setReadOnly(text_.Locked);
-        line_->setMaxLength(text_.MaxLength > 0 ? static_cast<int>(text_.MaxLength) : 32767);
+        // A new maximum length sets the text anew and loses the selection: set it first.
+        const int maxLength = text_.MaxLength > 0 ? static_cast<int>(text_.MaxLength) : 32767;
+        if (line_->maxLength() != maxLength) line_->setMaxLength(maxLength);
         line_->setEchoMode(text_.PasswordChar().empty() ? QLineEdit::Normal : QLineEdit::Password);
         line_->setAlignment(text_.Alignment == 1 ? Qt::AlignRight : text_.Alignment == 2 ? Qt::AlignHCenter : Qt::AlignLeft);
+        if (line_->text() != shown) line_->setText(shown);
+        line_->setSelection(start, end - start);
     } else {
         if (plain_->toPlainText() != shown) plain_->setPlainText(shown);
         QTextCursor cursor = plain_->textCursor();
