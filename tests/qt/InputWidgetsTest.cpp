@@ -8,6 +8,7 @@
 #include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -241,6 +242,33 @@ TEST(DateWidgetsTest, APickedDayKeepsTheTimeAndAClickedDayIsTheValue) {
     month.MonthColumns = 2;
     ASSERT_EQ(calendar->calendars().size(), 2u);
     EXPECT_EQ(calendar->calendars()[1]->monthShown(), 7);
+}
+
+TEST(DateWidgetsTest, AControlDroppedOnADayNamesTheDay) {
+    MonthView month("MonthView1");
+    month.Value = DateSerial(2004, 6, 5);
+    auto calendar = shown<MonthViewWidget>(month);
+    Label grid("gridDays");
+    std::string over;
+    VbDate dropped = 0;
+    month.onDateDragOver = [&](Control& source, VbDate day) { over = source.Name() + " " + FormatDate(day, "mmm-dd-yyyy"); };
+    month.onDateDragDrop = [&](Control&, VbDate day) { dropped = day; };
+
+    auto* table = calendar->calendars()[0]->findChild<QTableView*>();
+    QPoint twentieth;
+    for (int row = 3; row < table->model()->rowCount() && twentieth.isNull(); ++row)
+        for (int col = 0; col < table->model()->columnCount(); ++col)
+            if (table->model()->index(row, col).data().toInt() == 20)
+                twentieth = table->visualRect(table->model()->index(row, col)).center();
+    const ControlWidget::DragScope dragging(grid);
+    QMimeData mime;
+    mime.setData(ControlWidget::controlMimeType(), "gridDays");
+    QDragEnterEvent enter(twentieth, Qt::MoveAction, &mime, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(table->viewport(), &enter);
+    QDropEvent drop(twentieth, Qt::MoveAction, &mime, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(table->viewport(), &drop);
+    EXPECT_EQ(over, "gridDays Jun-20-2004");
+    EXPECT_EQ(dropped, DateSerial(2004, 6, 20));
 }
 
 TEST(TabStripWidgetTest, AClickOnATabSelectsItInTheModel) {

@@ -234,9 +234,18 @@ bool ControlWidget::dropEvent(QWidget* part, QEvent* event) {
         return true;
     }
     DataObject dropped;
-    for (const QUrl& url : mime->urls())
-        if (url.isLocalFile()) dropped.Files.push_back(ToStoredPath(url.toLocalFile().toStdString()));
-    if (mime->hasText()) dropped.Text = FromQString(mime->text());
+    QStringList addresses;
+    for (const QUrl& url : mime->urls()) {
+        if (url.isLocalFile())
+            dropped.Files.push_back(ToStoredPath(url.toLocalFile().toStdString()));
+        else
+            addresses.push_back(url.toString());
+    }
+    // Text proper, or the addresses of a link dragged from a browser.
+    if (mime->hasFormat(QStringLiteral("text/plain")))
+        dropped.Text = FromWidgetText(mime->text());
+    else if (!addresses.isEmpty())
+        dropped.Text = FromQString(addresses.join(QLatin1Char('\n')));
     model_->UserOLEDragDrop(dropped);
     return true;
 }

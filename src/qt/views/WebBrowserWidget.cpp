@@ -1,6 +1,7 @@
 #include "qt/views/WebBrowserWidget.h"
 
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QTextBrowser>
 #include <QUrl>
 
@@ -31,7 +32,7 @@ WebBrowserWidget::WebBrowserWidget(WebBrowser& control, QWidget* parent)
             QDesktopServices::openUrl(url);
             return;
         }
-        const QUrl resolved = browser_->source().resolved(url);
+        const QUrl resolved = browser_->document()->baseUrl().resolved(url);
         std::string target = ToStoredPath(resolved.toLocalFile().toStdString());
         if (resolved.hasFragment()) target += "#" + resolved.fragment().toStdString();
         web_.UserNavigate(target);
@@ -39,7 +40,7 @@ WebBrowserWidget::WebBrowserWidget(WebBrowser& control, QWidget* parent)
     refresh();
 }
 
-void WebBrowserWidget::show(const std::string& location) {
+void WebBrowserWidget::showLocation(const std::string& location) {
     if (location.empty()) {
         browser_->clear();
         return;
@@ -50,19 +51,26 @@ void WebBrowserWidget::show(const std::string& location) {
                               .arg(address.toHtmlEscaped(), address.toHtmlEscaped()));
         return;
     }
+    // The page is read here, each time (it may have been rewritten), as the
+    // Windows-1252 text the program writes.
     const size_t hash = location.find('#');
     const std::string file = location.substr(0, hash);
-    QUrl url = QUrl::fromLocalFile(QString::fromStdString(ToNativePath(file)));
-    if (hash != std::string::npos) url.setFragment(QString::fromStdString(location.substr(hash + 1)));
-    browser_->clearHistory();
-    browser_->setSource(QUrl());  // the same file again is read anew
-    browser_->setSource(url);
+    std::string bytes;
+    if (!ReadWholeFile(file, bytes)) {
+        browser_->setHtml(QStringLiteral("<p>The page %1 cannot be found.</p>").arg(ToQString(file).toHtmlEscaped()));
+        return;
+    }
+    const QFileInfo native(QString::fromStdString(ToNativePath(file)));
+    browser_->setSearchPaths({native.absolutePath()});
+    browser_->document()->setBaseUrl(QUrl::fromLocalFile(native.absoluteFilePath()));
+    browser_->setHtml(ToQString(bytes));
+    if (hash != std::string::npos) browser_->scrollToAnchor(QString::fromStdString(location.substr(hash + 1)));
 }
 
 void WebBrowserWidget::syncFromModel() {
     if (shownCount_ != web_.NavigationCount()) {
         shownCount_ = web_.NavigationCount();
-        show(web_.LocationURL());
+        showLocation(web_.LocationURL());
     }
 }
 

@@ -21,7 +21,7 @@ protected:
     void syncFromModel() override;
 
 private:
-    void show(const std::string& location);
+    void showLocation(const std::string& location);
 
     WebBrowser& web_;
     QTextBrowser* browser_;
