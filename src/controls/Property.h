@@ -6,6 +6,7 @@
 // Property<T> stores its value.  Accessor<T> computes it through a getter and a
 // setter: the properties of a grid's current cell, a list's selected index.
 
+#include <cmath>
 #include <compare>
 #include <concepts>
 #include <functional>
@@ -23,6 +24,17 @@ public:
     /// Called after the property at `property` (the member's address) took a new value.
     virtual void PropertyChanged(const void* property) = 0;
 };
+
+/// A value for a property of type T: a fraction given to a whole-number property is
+/// rounded half to even, as assigning to a whole number does in the program's
+/// original language.
+template <typename T, typename U>
+T ConvertForProperty(const U& value) {
+    if constexpr (std::integral<T> && std::floating_point<U>)
+        return static_cast<T>(std::nearbyint(value));
+    else
+        return T(value);
+}
 
 /// The operations shared by Property and Accessor.  `Derived` provides
 /// `const T& get() const` and `void set(const T&)`.
@@ -105,7 +117,7 @@ public:
         requires(!std::same_as<std::remove_cvref_t<U>, T> && std::constructible_from<T, const U&> &&
                  !std::derived_from<std::remove_cvref_t<U>, PropertyBase<std::remove_cvref_t<U>, T>>)
     Property& operator=(const U& value) {
-        set(T(value));
+        set(ConvertForProperty<T>(value));
         return *this;
     }
 
@@ -143,7 +155,7 @@ public:
         requires(!std::same_as<std::remove_cvref_t<U>, T> && std::constructible_from<T, const U&> &&
                  !std::derived_from<std::remove_cvref_t<U>, PropertyBase<std::remove_cvref_t<U>, T>>)
     Accessor& operator=(const U& value) {
-        set(T(value));
+        set(ConvertForProperty<T>(value));
         return *this;
     }
 

@@ -141,6 +141,10 @@ TEST(PropertyTest, PropertiesReadAssignAndCompareLikeTheirValues) {
     Label other;
     other.Width = lbl.Width;  // one property to another copies the value
     EXPECT_EQ(other.Width, 1015);
+    other.Width = 5600.5;  // a fraction rounds half to even
+    EXPECT_EQ(other.Width, 5600);
+    other.Height = 250.7;
+    EXPECT_EQ(other.Height, 251);
     lbl.SetViewCallback(nullptr);
 }
 
