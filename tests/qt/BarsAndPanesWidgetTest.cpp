@@ -103,6 +103,7 @@ TEST(TreeViewWidgetTest, NodesShowUnderTheirParentsAndClicksReachTheModel) {
     EXPECT_EQ(tv.SelectedItem(), tv.Nodes.Item("TASK"));
 
     tv.Nodes.Item("CALENDAR")->Selected = true;
+    test::ProcessEvents();
     EXPECT_EQ(view->treeWidget()->currentItem(), view->itemOf(tv.Nodes.Item("CALENDAR")));
     std::string collapsed;
     tv.onCollapse = [&](Node& node) { collapsed = node.Key(); };

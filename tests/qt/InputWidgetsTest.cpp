@@ -162,6 +162,7 @@ TEST(ListWidgetsTest, ChoosingFromACombinationBoxOrAListClicks) {
     EXPECT_EQ(clicks, 1);
     combo.AddItem("30 minutes");
     combo.ListIndex = 3;
+    test::ProcessEvents();
     EXPECT_EQ(comboView->comboBox()->currentText(), QStringLiteral("30 minutes"));
 
     ComboBox editable("cmbLocation");
@@ -180,6 +181,7 @@ TEST(ListWidgetsTest, ChoosingFromACombinationBoxOrAListClicks) {
     EXPECT_EQ(ticked, 1);
     EXPECT_TRUE(list.Selected(1));
     list.SetSelected(0, true);
+    test::ProcessEvents();
     EXPECT_EQ(listView->listWidget()->item(0)->checkState(), Qt::Checked);
 }
 

@@ -41,6 +41,7 @@ TEST_F(ListViewWidgetTest, RowsCellsAndHeadingsFollowTheModel) {
     lv.ListItems(2).Bold = true;
     lv.ListItems(2).ListSubItems(1).ForeColor = vbBlue;
     lv.ListItems.Add("anne");
+    test::ProcessEvents();  // a list is drawn again once the program is done filling it
     EXPECT_EQ(rows().rowCount(), 4);
     EXPECT_EQ(text(1, 1), QStringLiteral("LOGGED ON"));
     EXPECT_TRUE(rows().index(1, 0).data(Qt::FontRole).value<QFont>().bold());
@@ -48,11 +49,13 @@ TEST_F(ListViewWidgetTest, RowsCellsAndHeadingsFollowTheModel) {
 
     lv.SortOrder = lvwDescending;
     lv.Sorted = true;
+    test::ProcessEvents();
     EXPECT_EQ(text(0, 0), QStringLiteral("mary"));
     EXPECT_EQ(text(3, 0), QStringLiteral("anne"));
     EXPECT_EQ(view->treeView()->header()->sortIndicatorOrder(), Qt::DescendingOrder);
 
     lv.ListItems.Clear();
+    test::ProcessEvents();
     EXPECT_EQ(rows().rowCount(), 0);
 }
 
@@ -68,6 +71,7 @@ TEST_F(ListViewWidgetTest, ClicksAndDoubleClicksOnRowsReachTheHandlers) {
     EXPECT_EQ(events.back(), "DblClick john");
 
     lv.ListItems(1).Selected = true;  // the program's choice shows
+    test::ProcessEvents();
     EXPECT_TRUE(view->itemView()->selectionModel()->isRowSelected(0, {}));
     EXPECT_FALSE(view->itemView()->selectionModel()->isRowSelected(2, {}));
 }
@@ -84,6 +88,7 @@ TEST_F(ListViewWidgetTest, TicksAndHeadingClicksReachTheModel) {
     EXPECT_EQ(ticks, (std::vector<std::string>{"john+"}));
     EXPECT_TRUE(lv.ListItems(3).Checked);
     lv.ListItems(1).Checked = true;
+    test::ProcessEvents();
     EXPECT_EQ(rows().index(0, 0).data(Qt::CheckStateRole).toInt(), Qt::Checked);
 
     QHeaderView* header = view->treeView()->header();
@@ -95,6 +100,7 @@ TEST_F(ListViewWidgetTest, TicksAndHeadingClicksReachTheModel) {
 TEST_F(ListViewWidgetTest, TheIconStyleShowsAFieldOfIcons) {
     lv.View = lvwIcon;
     lv.ListItems(1).Icon = "overview";
+    test::ProcessEvents();
     auto* icons = qobject_cast<QListView*>(view->itemView());
     ASSERT_NE(icons, nullptr);
     EXPECT_EQ(icons->viewMode(), QListView::IconMode);

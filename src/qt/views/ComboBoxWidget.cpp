@@ -27,6 +27,7 @@ private:
 
 ComboBoxWidget::ComboBoxWidget(ComboBox& control, QWidget* parent)
     : ControlWidget(control, parent), list_(control), combo_(new DropDownComboBox(control)) {
+    setDeferredRefresh(true);
     setInner(combo_);
     combo_->setInsertPolicy(QComboBox::NoInsert);
     connect(combo_, qOverload<int>(&QComboBox::activated), this, [this](int index) {

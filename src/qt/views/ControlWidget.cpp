@@ -85,7 +85,20 @@ void ControlWidget::refresh() {
 
 void ControlWidget::onNotice(ViewNotice notice) {
     switch (notice) {
-        case ViewNotice::Changed: refresh(); break;
+        case ViewNotice::Changed:
+            if (!deferred_) {
+                refresh();
+            } else if (!refreshPending_) {
+                refreshPending_ = true;
+                QMetaObject::invokeMethod(
+                    this,
+                    [this] {
+                        refreshPending_ = false;
+                        refresh();
+                    },
+                    Qt::QueuedConnection);
+            }
+            break;
         case ViewNotice::Focus:
             if (inner_ != nullptr) inner_->setFocus(Qt::OtherFocusReason);
             break;

@@ -62,6 +62,9 @@ protected:
     void setPlainClicks(bool on) { plainClicks_ = on; }
     /// The view raises MouseDown, MouseUp and MouseMove itself.
     void setOwnMouse(bool on) { ownMouse_ = on; }
+    /// Changes of the model are drawn once the program returns to the event loop
+    /// (or lets it run), all together: for lists that the program fills item by item.
+    void setDeferredRefresh(bool on) { deferred_ = on; }
     /// True while the view draws the model: widget signals then come from the
     /// program, not from the user.
     bool syncing() const { return syncing_; }
@@ -92,6 +95,8 @@ private:
     bool plainClicks_ = false;
     bool ownMouse_ = false;
     bool syncing_ = false;
+    bool deferred_ = false;
+    bool refreshPending_ = false;
     QPoint pressPos_;
     bool pressed_ = false;
 };

@@ -68,7 +68,10 @@ void FormWindow::syncControls() {
     if (form_ == nullptr) return;
     std::vector<ControlWidget*> added;
     for (Control* control : form_->Controls()) {
-        if (views_.contains(control) && !views_.value(control).isNull()) continue;
+        // A view still bound to the control stays; a control made anew where an
+        // unloaded one was gets a view of its own.
+        const QPointer<ControlWidget> existing = views_.value(control);
+        if (!existing.isNull() && existing->model() == control) continue;
         if (ControlWidget* view = CreateControlWidget(*control, canvas_)) {
             views_.insert(control, view);
             added.push_back(view);

@@ -9,6 +9,7 @@ namespace orbidex {
 
 ListBoxWidget::ListBoxWidget(ListBox& control, QWidget* parent)
     : ControlWidget(control, parent), box_(control), list_(new QListWidget) {
+    setDeferredRefresh(true);
     setInner(list_, list_->viewport(), list_);
     connect(list_, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
         if (syncing() || model() == nullptr || box_.Style != vbListBoxCheckbox) return;

@@ -11,6 +11,7 @@ namespace orbidex {
 
 TreeViewWidget::TreeViewWidget(TreeView& control, QWidget* parent)
     : ControlWidget(control, parent), tree_model_(control), tree_(new QTreeWidget) {
+    setDeferredRefresh(true);
     tree_->setHeaderHidden(true);
     tree_->setColumnCount(1);
     setInner(tree_, tree_->viewport(), tree_);
