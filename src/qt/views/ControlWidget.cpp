@@ -173,7 +173,7 @@ bool ControlWidget::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::DragMove:
         case QEvent::Drop: {
             const bool dropPart = std::find(dropParts_.begin(), dropParts_.end(), part) != dropParts_.end();
-            return (mousePart || dropPart) && dropEvent(part, event);
+            return (mousePart || dropPart) && dragOrDrop(part, event);
         }
         default: return false;
     }
@@ -229,7 +229,7 @@ bool ControlWidget::keyEvent(QEvent* event) {
     return model_->UserKeyPress(static_cast<unsigned char>(typed[0])) == 0;
 }
 
-bool ControlWidget::dropEvent(QWidget* part, QEvent* event) {
+bool ControlWidget::dragOrDrop(QWidget* part, QEvent* event) {
     auto* drop = static_cast<QDropEvent*>(event);
     const QMimeData* mime = drop->mimeData();
     const bool internal = mime->hasFormat(controlMimeType()) && gDragged != nullptr;

@@ -84,7 +84,7 @@ private:
     void onNotice(ViewNotice notice);
     bool mouseEvent(QWidget* part, QEvent* event);
     bool keyEvent(QEvent* event);
-    bool dropEvent(QWidget* part, QEvent* event);
+    bool dragOrDrop(QWidget* part, QEvent* event);
 
     Control* model_;
     QWidget* inner_ = nullptr;
