@@ -48,6 +48,7 @@ void ControlWidget::setPlacedByForm(bool placed) {
 void ControlWidget::setInner(QWidget* inner, QWidget* mousePart, QWidget* keyPart) {
     if (inner_ != nullptr) {
         layout()->removeWidget(inner_);
+        inner_->hide();
         inner_->deleteLater();
     }
     inner_ = inner;
@@ -69,6 +70,7 @@ void ControlWidget::takeDropsOn(QWidget* part) {
 
 void ControlWidget::refresh() {
     if (model_ == nullptr) return;
+    const bool wasSyncing = syncing_;
     syncing_ = true;
     setEnabled(model_->Enabled);
     setToolTip(ToQString(model_->ToolTipText));
@@ -80,7 +82,7 @@ void ControlWidget::refresh() {
     }
     if (parentWidget() != nullptr) setVisible(model_->Visible);
     syncFromModel();
-    syncing_ = false;
+    syncing_ = wasSyncing;
 }
 
 void ControlWidget::onNotice(ViewNotice notice) {

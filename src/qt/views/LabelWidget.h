@@ -19,7 +19,7 @@ protected:
     void syncFromModel() override;
 
 private:
-    Label& label_model_;
+    Label& caption_;
     QLabel* label_;
 };
 

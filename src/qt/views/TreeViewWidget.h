@@ -30,7 +30,7 @@ private:
     void addNode(Node* node, QTreeWidgetItem* parent);
     Node* nodeOf(QTreeWidgetItem* item) const;
 
-    TreeView& tree_model_;
+    TreeView& treeModel_;
     QTreeWidget* tree_;
     QHash<const Node*, QTreeWidgetItem*> items_;
     QHash<QTreeWidgetItem*, Node*> nodes_;
