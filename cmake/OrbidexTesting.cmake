@@ -1,20 +1,14 @@
 # orbidex_add_test(<name> SOURCES <files...> [LIBS <targets...>] [QT])
-# Builds one GoogleTest executable and registers its tests with CTest.  QT tests run
-# with the offscreen platform; every test gets a fixed locale and time zone.
+# Builds one GoogleTest executable and registers its tests with CTest.  Every test
+# program starts from tests/support/TestMain.cpp, which fixes the locale and the
+# time zone and gives Qt the offscreen platform.
 include(GoogleTest)
 find_package(GTest REQUIRED)
 
 function(orbidex_add_test name)
-  cmake_parse_arguments(ARG "QT" "" "SOURCES;LIBS" ${ARGN})
+  cmake_parse_arguments(ARG "QT" "" "SOURCES;LIBS" ${ARGN})  # QT marks a test program that starts Qt
   add_executable(${name} ${ARG_SOURCES})
-  target_link_libraries(${name} PRIVATE orbidex_test_support ${ARG_LIBS} GTest::gtest GTest::gtest_main
+  target_link_libraries(${name} PRIVATE orbidex_test_main orbidex_test_support ${ARG_LIBS} GTest::gtest
                         orbidex_warnings)
-  set(env "LANG=C.UTF-8" "LC_ALL=C.UTF-8" "TZ=Europe/London")
-  if(ARG_QT)
-    list(APPEND env "QT_QPA_PLATFORM=offscreen")
-  endif()
-  gtest_discover_tests(${name}
-    PROPERTIES ENVIRONMENT "${env}"
-    DISCOVERY_TIMEOUT 60
-    DISCOVERY_MODE PRE_TEST)
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 DISCOVERY_MODE PRE_TEST)
 endfunction()

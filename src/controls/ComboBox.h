@@ -1,23 +1,45 @@
 #pragma once
-// A drop-down list: its items, as the form's logic fills and reads them.
+// A combo box: a list of texts with an edit field (Style 0 and 1) or a drop-down
+// list alone (Style 2).  Choosing an entry sets Text and raises Click; a change of
+// the edit field's text raises Change.
 
-#include <string>
-#include <vector>
+#include "controls/ListControl.h"
 
 namespace orbidex {
 
-class ComboBox {
+constexpr int vbComboDropdown = 0;
+constexpr int vbComboSimple = 1;
+constexpr int vbComboDropdownList = 2;
+
+class ComboBox : public ListControl {
 public:
-    void Clear() { items_.clear(); }
-    void AddItem(const std::string& text) { items_.push_back(text); }
-    long ListCount() const { return static_cast<long>(items_.size()); }
-    /// The item at 0-based `i`, or "" outside the list.
-    std::string List(long i) const {
-        return i >= 0 && i < ListCount() ? items_[static_cast<size_t>(i)] : std::string();
+    ComboBox(Form* form, std::string name);
+    explicit ComboBox(std::string name = "") : ComboBox(nullptr, std::move(name)) {}
+
+    /// The edit field's text, or the chosen entry's.  Assigning a text chooses the
+    /// entry equal to it without regard to case; in a drop-down list (Style 2) a
+    /// text that is no entry changes nothing.
+    Accessor<std::string> Text;
+    Property<int> Style{this, vbComboDropdown};
+
+    std::function<void()> onChange;
+    std::function<void()> onDropDown;
+
+    /// The user typed into the edit field.
+    void UserEdit(const std::string& text) {
+        if (Enabled && Style != vbComboDropdownList) Text = text;
     }
+    void UserDropDown() { Raise(onDropDown); }
+
+protected:
+    void IndexChanged() override;
+    void ListChanged() override;
 
 private:
-    std::vector<std::string> items_;
+    void setText(const std::string& text);
+    long findExact(const std::string& text) const;
+
+    std::string text_;
 };
 
 }  // namespace orbidex

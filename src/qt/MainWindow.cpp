@@ -8,7 +8,7 @@
 namespace orbidex {
 
 MainWindow::MainWindow(frmClientDiaryMain& form) : form_(form) {
-    setWindowTitle(form.Caption.empty() ? QStringLiteral("Orbidex") : ToQString(form.Caption));
+    setWindowTitle(form.Caption().empty() ? QStringLiteral("Orbidex") : ToQString(form.Caption));
     if (form.Width > 0 && form.Height > 0) resize(TwipsToPixels(form.Width), TwipsToPixels(form.Height));
     else resize(733, 503);
 }

@@ -14,7 +14,7 @@ public:
     /// Closing the window by any means ends the program through CommandExit.
     void Form_Unload(int& cancel) override;
 
-    MonthView MonthView1;
+    MonthView MonthView1{this, "MonthView1"};
 };
 
 /// The main window, created at its first use.
