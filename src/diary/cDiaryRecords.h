@@ -12,11 +12,19 @@
 #include <string_view>
 #include <vector>
 
+#include "controls/OleColor.h"
 #include "diary/cDiaryRecord.h"
 #include "platform/Platform.h"
 
 namespace orbidex {
 
+class FlexGrid;
+class ListBox;
+class ListItem;
+class ListView;
+class MonthView;
+class StatusBar;
+class clsTimeSlots;
 class frmClientDiaryMain;
 
 class cDiaryRecords {
@@ -106,6 +114,45 @@ public:
     void DeleteDiaryEventFromArray(long index);
     /// Kept for its callers: the array stays in file order.
     void SortDiaryArray();
+
+    // The calendar side of the main window: the time grid and the event list
+
+    /// Prepares the empty grid or list for the present GridOrList setting.
+    void DiaryTopLevelInitDisplay(frmClientDiaryMain& form);
+    /// Lays out the empty grid for `days` days from `startDate`.
+    void InitGridForTimedSchedule(clsTimeSlots& slots, FlexGrid& grid, VbDate startDate, int days,
+                                  frmClientDiaryMain& form);
+    /// The one entry that draws the calendar side for the view around `date`.
+    void DiaryTopLevelDisplay(VbDate date);
+    /// Places the events of `days` days from `date` into the grid.
+    void DisplayScheduleInGrid(clsTimeSlots& slots, FlexGrid& grid, VbDate date, int days, bool showFileEvents,
+                               ListBox* fileList);
+    /// Copies of the loaded events of one day, in array order; returns their count.
+    long FilterEventsFromArray(VbDate date, std::vector<cDiaryRecord>& events, bool hideFileEvents,
+                               const std::string& keyword);
+    /// Makes the clicked cell's event the current one; true for a blank cell.
+    bool GetEventFromGrid(FlexGrid& grid, MonthView& calendar, StatusBar& statusBar);
+    /// Moves the view to `date`, loading what it needs.
+    void CalendarDateClicked(frmClientDiaryMain& form, VbDate date);
+    /// The raw lines of the month's file without the file events; returns their count.
+    long GetMonthsEvents(VbDate date, std::vector<std::string>& lines);
+    /// The first date the view of DayWeekMonth days shows for `date`.
+    VbDate GetDisplayStartDate(VbDate date);
+    /// Lays out the columns of the event list from the header record.
+    void InitListViewForTimedSchedule(clsTimeSlots& slots, const cDiaryRecord& header, ListView& list);
+    /// Fills the event list with the events of `days` days from `date`.
+    void DisplayScheduleInListView(ListView& list, VbDate date, int days, const cDiaryRecord& header);
+    /// Gives the item's text and its first `columns` sub-items one fore colour.
+    void SetListViewColumnsColour(ListItem& item, long columns, OleColor colour);
+
+    // Statistics of the view and of a search
+
+    void ClearTotals();
+    /// The view's totals in the status bar and the labels of `form`.
+    void DisplayStats(frmClientDiaryMain& form, StatusBar& statusBar, VbDate date);
+    /// The sentence of a total ("TOTEVENTS" or "TOTTIME").
+    std::string ShowStats(const std::string& what, const std::string& searchText, long days,
+                          const std::string& fromDate, const std::string& toDate);
 
 private:
     /// The file's modification time and length as text; "" when it is missing.

@@ -6,6 +6,7 @@
 #include "foundation/ProgramState.h"
 #include "network/cComms.h"
 #include "screen/clsDiaryCommand.h"
+#include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
 
 namespace orbidex {
@@ -15,6 +16,7 @@ void ResetProgramObjects() {
     gListViewHeadings = cDiaryRecord();
     gTaskHeadings = cDiaryRecord();
     glbCmd = clsDiaryCommand();
+    glbScreen = clsDiaryScreen();
     glbEvents = cDiaryRecords();
     glbComms = cComms();
     glbRecurring = cDiaryRecurring();
