@@ -21,7 +21,7 @@ std::unique_ptr<frmClientDiaryMain> gMainForm;
 
 frmClientDiaryMain::frmClientDiaryMain() : Form("frmClientDiaryMain") {
     Caption = "Brindlewick Software's Orbidex";
-    Move(100, 100, 11000, 7545);
+    Move(0, 0, 9600, 7200);  // the design size; the settings give the real place
     placeControls();
     bindControls();
     bindMenus();
@@ -140,14 +140,15 @@ void frmClientDiaryMain::lvDiary_ColumnClick(ColumnHeader& column) {
 
 void frmClientDiaryMain::lvCat_ItemClick(ListItem&) { glbCmd.MouseListClicked(lvCat); }
 
-void frmClientDiaryMain::imgSplitter_MouseDown(int button, int, long, long) {
+void frmClientDiaryMain::imgSplitter_MouseDown(int button, int, long x, long) {
     movingSplitter_ = button == vbLeftButton;
+    grabbedAt_ = x;
 }
 
 void frmClientDiaryMain::imgSplitter_MouseMove(int button, int, long x, long) {
     if (!movingSplitter_ || (button & vbLeftButton) == 0) return;
     const long columnLeft = MonthView1.Visible ? static_cast<long>(MonthView1.Left) : static_cast<long>(lvUsers.Left);
-    glbScreen.SetColumnWidth(imgSplitter.Left + x - columnLeft);
+    glbScreen.SetColumnWidth(imgSplitter.Left + x - grabbedAt_ - columnLeft);
     glbScreen.resize();
 }
 
@@ -157,12 +158,15 @@ void frmClientDiaryMain::imgSplitter_MouseUp(int, int, long, long) {
     ResizeGridColumns();
 }
 
-void frmClientDiaryMain::imgVert_MouseDown(int button, int, long, long) { movingVert_ = button == vbLeftButton; }
+void frmClientDiaryMain::imgVert_MouseDown(int button, int, long, long y) {
+    movingVert_ = button == vbLeftButton;
+    grabbedAt_ = y;
+}
 
 void frmClientDiaryMain::imgVert_MouseMove(int button, int, long, long y) {
     if (!movingVert_ || (button & vbLeftButton) == 0) return;
     const long paneBottom = web.Top + web.Height;
-    glbScreen.SetBrowserHeight(paneBottom - (imgVert.Top + y) - imgVert.Height);
+    glbScreen.SetBrowserHeight(paneBottom - (imgVert.Top + y - grabbedAt_) - imgVert.Height);
     glbScreen.resize();
 }
 
