@@ -13,7 +13,9 @@
 #include "qt/views/ViewSupport.h"
 
 // The bundled drawings live in a static library: their resource is registered by hand.
-static void registerIconResource() { Q_INIT_RESOURCE(icons); }
+static void registerIconResource() {
+    Q_INIT_RESOURCE(icons);
+}
 
 namespace orbidex {
 
@@ -26,24 +28,41 @@ struct ThemeName {
 };
 
 constexpr ThemeName kThemeNames[] = {
-    {"new", "document-new"},         {"find", "edit-find"},
-    {"delete", "edit-delete"},       {"print", "document-print"},
-    {"today", "go-jump-today"},      {"days", "view-calendar-day"},
-    {"week", "view-calendar-week"},  {"month", "view-calendar-month"},
-    {"year", "view-calendar"},       {"calendar", "x-office-calendar"},
-    {"showall", "view-list-details"}, {"current", "view-filter"},
-    {"server", "network-server"},    {"disconnect", "network-offline"},
-    {"grid", "view-grid"},           {"list", "view-list"},
-    {"properties", "document-properties"}, {"task", "view-task"},
-    {"note", "note"},                {"staff", "system-users"},
-    {"meeting", "system-users"},     {"leaf", "text-x-generic"},
-    {"closed", "folder"},            {"open", "folder-open"},
-    {"overview", "go-home"},         {"clock", "appointment-soon"},
-    {"bridge", "view-task"},         {"general", "appointment-new"},
-    {"tessaline", "preferences-system"}, {"autobackup", "document-save"},
+    {"new", "document-new"},
+    {"find", "edit-find"},
+    {"delete", "edit-delete"},
+    {"print", "document-print"},
+    {"today", "go-jump-today"},
+    {"days", "view-calendar-day"},
+    {"week", "view-calendar-week"},
+    {"month", "view-calendar-month"},
+    {"year", "view-calendar"},
+    {"calendar", "x-office-calendar"},
+    {"showall", "view-list-details"},
+    {"current", "view-filter"},
+    {"server", "network-server"},
+    {"disconnect", "network-offline"},
+    {"grid", "view-grid"},
+    {"list", "view-list"},
+    {"properties", "document-properties"},
+    {"task", "view-task"},
+    {"note", "note"},
+    {"staff", "system-users"},
+    {"meeting", "system-users"},
+    {"leaf", "text-x-generic"},
+    {"closed", "folder"},
+    {"open", "folder-open"},
+    {"overview", "go-home"},
+    {"clock", "appointment-soon"},
+    {"bridge", "view-task"},
+    {"general", "appointment-new"},
+    {"tessaline", "preferences-system"},
+    {"autobackup", "document-save"},
 };
 
-QString bundledFile(const QString& name) { return QStringLiteral(":/icons/%1.svg").arg(name); }
+QString bundledFile(const QString& name) {
+    return QStringLiteral(":/icons/%1.svg").arg(name);
+}
 
 // The tiles the views draw for the program's names, by the key of their icon.
 const QHash<qint64, QString>& tileNames() {
@@ -101,7 +120,9 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::ChildAdded) QMetaObject::invokeMethod(this, [this] { apply(); }, Qt::QueuedConnection);
+        if (event->type() == QEvent::ChildAdded)
+            QMetaObject::invokeMethod(
+                this, [this] { apply(); }, Qt::QueuedConnection);
         return QObject::eventFilter(watched, event);
     }
 

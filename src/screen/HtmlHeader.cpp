@@ -39,8 +39,8 @@ std::string GetDefaultStyle() {
 }
 
 std::string GetHtmlHeader(const std::string& title) {
-    return "<HTML><head>\r\n<title>" + title + "</title>\r\n" + GetDefaultStyle() + "\r\n</head>\r\n\r\n<BODY>\r\n<H2>" +
-           title + "</h2>\r\n";
+    return "<HTML><head>\r\n<title>" + title + "</title>\r\n" + GetDefaultStyle() +
+           "\r\n</head>\r\n\r\n<BODY>\r\n<H2>" + title + "</h2>\r\n";
 }
 
 }  // namespace orbidex

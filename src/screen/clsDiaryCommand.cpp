@@ -47,10 +47,18 @@ void clsDiaryCommand::setViewLength(int days, int menuIndex) {
     glbScreen.PressViewButton();
 }
 
-void clsDiaryCommand::ViewDay() { setViewLength(1, 0); }
-void clsDiaryCommand::ViewWeek() { setViewLength(7, 1); }
-void clsDiaryCommand::ViewFortnight() { setViewLength(14, 2); }
-void clsDiaryCommand::ViewMonth() { setViewLength(31, 3); }
+void clsDiaryCommand::ViewDay() {
+    setViewLength(1, 0);
+}
+void clsDiaryCommand::ViewWeek() {
+    setViewLength(7, 1);
+}
+void clsDiaryCommand::ViewFortnight() {
+    setViewLength(14, 2);
+}
+void clsDiaryCommand::ViewMonth() {
+    setViewLength(31, 3);
+}
 
 void clsDiaryCommand::redrawView() {
     if (form_ == nullptr) return;
@@ -170,21 +178,53 @@ void clsDiaryCommand::unavailable(const std::string& what) {
     if (form_ != nullptr) form_->status.Panels(1).Text = text;
 }
 
-void clsDiaryCommand::EventAdd(VbDate, const std::string&) { unavailable("adding an event"); }
-void clsDiaryCommand::EventEdit() { unavailable("editing an event"); }
-void clsDiaryCommand::EventDelete() { unavailable("deleting an event"); }
-void clsDiaryCommand::EventReschedule() { unavailable("rescheduling an event"); }
-void clsDiaryCommand::EventAddMultidayEvent() { unavailable("events of several days"); }
-void clsDiaryCommand::TaskAdd(VbDate) { unavailable("adding a task"); }
-void clsDiaryCommand::TaskEdit() { unavailable("editing a task"); }
-void clsDiaryCommand::TaskDelete() { unavailable("deleting a task"); }
-void clsDiaryCommand::NoteAdd() { unavailable("adding a note"); }
-void clsDiaryCommand::NoteEdit() { unavailable("editing a note"); }
-void clsDiaryCommand::NoteDelete() { unavailable("deleting a note"); }
-void clsDiaryCommand::BookMeeting(VbDate, const std::string&) { unavailable("booking a meeting"); }
-void clsDiaryCommand::Search() { unavailable("searching"); }
-void clsDiaryCommand::ShowOptions() { unavailable("the options"); }
-void clsDiaryCommand::ViewYear() { unavailable("the annual calendar"); }
-void clsDiaryCommand::serverRefreshStaffData() { unavailable("the staff planner's data"); }
+void clsDiaryCommand::EventAdd(VbDate, const std::string&) {
+    unavailable("adding an event");
+}
+void clsDiaryCommand::EventEdit() {
+    unavailable("editing an event");
+}
+void clsDiaryCommand::EventDelete() {
+    unavailable("deleting an event");
+}
+void clsDiaryCommand::EventReschedule() {
+    unavailable("rescheduling an event");
+}
+void clsDiaryCommand::EventAddMultidayEvent() {
+    unavailable("events of several days");
+}
+void clsDiaryCommand::TaskAdd(VbDate) {
+    unavailable("adding a task");
+}
+void clsDiaryCommand::TaskEdit() {
+    unavailable("editing a task");
+}
+void clsDiaryCommand::TaskDelete() {
+    unavailable("deleting a task");
+}
+void clsDiaryCommand::NoteAdd() {
+    unavailable("adding a note");
+}
+void clsDiaryCommand::NoteEdit() {
+    unavailable("editing a note");
+}
+void clsDiaryCommand::NoteDelete() {
+    unavailable("deleting a note");
+}
+void clsDiaryCommand::BookMeeting(VbDate, const std::string&) {
+    unavailable("booking a meeting");
+}
+void clsDiaryCommand::Search() {
+    unavailable("searching");
+}
+void clsDiaryCommand::ShowOptions() {
+    unavailable("the options");
+}
+void clsDiaryCommand::ViewYear() {
+    unavailable("the annual calendar");
+}
+void clsDiaryCommand::serverRefreshStaffData() {
+    unavailable("the staff planner's data");
+}
 
 }  // namespace orbidex

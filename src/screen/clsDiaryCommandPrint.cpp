@@ -28,7 +28,9 @@ std::string fontTagFor(OleColor colour) {
     return "<FONT COLOR=Black>";
 }
 
-std::string userName() { return glbMyUserName.empty() ? platform().UserName() : glbMyUserName; }
+std::string userName() {
+    return glbMyUserName.empty() ? platform().UserName() : glbMyUserName;
+}
 
 }  // namespace
 

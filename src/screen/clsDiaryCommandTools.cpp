@@ -55,11 +55,15 @@ void clsDiaryCommand::OpenHelpContents() {
 
 void clsDiaryCommand::OpenMakersPage(MakersPage page) {
     switch (page) {
-        case MakersPage::Showcase: platform().OpenDocument("https://www.brindlewick.example/orbidex/"); break;
+        case MakersPage::Showcase:
+            platform().OpenDocument("https://www.brindlewick.example/orbidex/");
+            break;
         case MakersPage::Suggestion:
             platform().OpenDocument("https://www.brindlewick.example/orbidex/suggest.html");
             break;
-        case MakersPage::BugReport: platform().OpenDocument("https://www.brindlewick.example/orbidex/bugs.html"); break;
+        case MakersPage::BugReport:
+            platform().OpenDocument("https://www.brindlewick.example/orbidex/bugs.html");
+            break;
     }
 }
 

@@ -49,8 +49,8 @@ public:
     void SetBrowserHeight(long height);
 
     // Values the companion keeps in the shared settings file.
-    std::string TimeFormat;     ///< format of DisplayTime
-    int16_t WorkingFlag = 0;    ///< 0 while the user is away from the desk
+    std::string TimeFormat;   ///< format of DisplayTime
+    int16_t WorkingFlag = 0;  ///< 0 while the user is away from the desk
 
 private:
     void drawTree();
@@ -71,8 +71,8 @@ private:
 
     frmClientDiaryMain* form_ = nullptr;
     std::string mode_;
-    long columnWidth_ = 0;     ///< 0: the month calendar's own width
-    long browserHeight_ = 0;   ///< 0: a third of the main area
+    long columnWidth_ = 0;    ///< 0: the month calendar's own width
+    long browserHeight_ = 0;  ///< 0: a third of the main area
 };
 
 extern clsDiaryScreen glbScreen;

@@ -14,7 +14,9 @@ namespace orbidex {
 
 namespace {
 
-bool isLocalKind() { return NETWORK_STRING == "LOCAL"; }
+bool isLocalKind() {
+    return NETWORK_STRING == "LOCAL";
+}
 
 struct TreeEntry {
     const char* key;
@@ -63,9 +65,8 @@ struct ShortcutEntry {
 };
 
 constexpr ShortcutEntry kShortcuts[] = {
-    {"HOME", "Home", "overview", false}, {"CALENDAR", "My Diary", "clock", false},
-    {"TASK", "Tasks", "bridge", false},  {"NOTE", "Notes", "note", false},
-    {"STAFF", "Staff", "meeting", true},
+    {"HOME", "Home", "overview", false}, {"CALENDAR", "My Diary", "clock", false}, {"TASK", "Tasks", "bridge", false},
+    {"NOTE", "Notes", "note", false},    {"STAFF", "Staff", "meeting", true},
 };
 
 struct ButtonEntry {
@@ -111,8 +112,8 @@ void clsDiaryScreen::drawTree() {
     for (const TreeEntry& entry : kTree) {
         if (entry.networkOnly && isLocalKind()) continue;
         const std::string relative = entry.relative;
-        Node* node = tree.Nodes.Add(relative, relative.empty() ? tvwLast : tvwChild, entry.key, entry.text,
-                                    entry.image);
+        Node* node =
+            tree.Nodes.Add(relative, relative.empty() ? tvwLast : tvwChild, entry.key, entry.text, entry.image);
         if (node != nullptr) node->ExpandedImage = entry.expandedImage;
     }
     if (Node* home = tree.Nodes.Item("HOME")) home->Expanded = true;

@@ -16,7 +16,7 @@ constexpr long kSplitterSize = 75;
 constexpr long kGap = 60;
 constexpr long kHeadingHeight = 375;
 constexpr long kLabelHeight = 255;
-constexpr long kMonthWidth = 3600;   ///< one month of the calendar
+constexpr long kMonthWidth = 3600;  ///< one month of the calendar
 constexpr long kMonthHeight = 2700;
 constexpr long kMinColumnWidth = 1500;
 constexpr long kMinMainWidth = 1500;
@@ -31,7 +31,9 @@ struct Area {
     long height() const { return std::max(0L, bottom - top); }
 };
 
-long clampTo(long value, long low, long high) { return std::max(low, std::min(value, std::max(low, high))); }
+long clampTo(long value, long low, long high) {
+    return std::max(low, std::min(value, std::max(low, high)));
+}
 
 // The client area less the tool bar along the top and the status bar along the bottom.
 Area clientArea(const frmClientDiaryMain& form) {
@@ -59,9 +61,13 @@ long layOutLeftStrip(frmClientDiaryMain& form, const Area& area) {
 
 }  // namespace
 
-void clsDiaryScreen::SetColumnWidth(long width) { columnWidth_ = std::max(kMinColumnWidth, width); }
+void clsDiaryScreen::SetColumnWidth(long width) {
+    columnWidth_ = std::max(kMinColumnWidth, width);
+}
 
-void clsDiaryScreen::SetBrowserHeight(long height) { browserHeight_ = std::max(kMinPaneHeight, height); }
+void clsDiaryScreen::SetBrowserHeight(long height) {
+    browserHeight_ = std::max(kMinPaneHeight, height);
+}
 
 void clsDiaryScreen::resize() {
     if (form_ == nullptr) return;
@@ -105,8 +111,8 @@ void clsDiaryScreen::resize() {
         form.lblHeading.Move(area.left, area.top, area.width(), kHeadingHeight);
         area.top += kHeadingHeight;
     }
-    Control* view = form.gridDays.Visible   ? static_cast<Control*>(&form.gridDays)
-                    : form.lvDiary.Visible  ? static_cast<Control*>(&form.lvDiary)
+    Control* view = form.gridDays.Visible             ? static_cast<Control*>(&form.gridDays)
+                    : form.lvDiary.Visible            ? static_cast<Control*>(&form.lvDiary)
                     : (form.lvCat.Visible && !column) ? static_cast<Control*>(&form.lvCat)
                                                       : nullptr;
     const bool split = view != nullptr && form.web.Visible;

@@ -105,13 +105,21 @@ void frmClientDiaryMain::timerSecond_Timer() {
     lastSecond_ = second;
 }
 
-void frmClientDiaryMain::tv_NodeClick(Node& node) { glbCmd.NavigationClicked(node.Key(), node.Text); }
+void frmClientDiaryMain::tv_NodeClick(Node& node) {
+    glbCmd.NavigationClicked(node.Key(), node.Text);
+}
 
-void frmClientDiaryMain::lvView_ItemClick(ListItem& item) { glbScreen.SwitchMode(item.Key); }
+void frmClientDiaryMain::lvView_ItemClick(ListItem& item) {
+    glbScreen.SwitchMode(item.Key);
+}
 
-void frmClientDiaryMain::Toolbar1_ButtonClick(Button& button) { glbCmd.ToolbarClicked(button.Key); }
+void frmClientDiaryMain::Toolbar1_ButtonClick(Button& button) {
+    glbCmd.ToolbarClicked(button.Key);
+}
 
-void frmClientDiaryMain::Toolbar1_ButtonMenuClick(ButtonMenu& entry) { glbCmd.ToolbarClicked(entry.Key); }
+void frmClientDiaryMain::Toolbar1_ButtonMenuClick(ButtonMenu& entry) {
+    glbCmd.ToolbarClicked(entry.Key);
+}
 
 void frmClientDiaryMain::MonthView1_DateClick(VbDate day) {
     glbNumDaysToDisplay = glbConfig.DayWeekMonth;
@@ -120,13 +128,17 @@ void frmClientDiaryMain::MonthView1_DateClick(VbDate day) {
     glbEvents.CalendarDateClicked(*this, day);
 }
 
-void frmClientDiaryMain::gridDays_Click() { glbCmd.MouseGridClicked(gridDays); }
+void frmClientDiaryMain::gridDays_Click() {
+    glbCmd.MouseGridClicked(gridDays);
+}
 
 void frmClientDiaryMain::gridDays_MouseUp(int button, int, long, long) {
     if (button == vbRightButton && glbScreen.Mode() == "CALENDAR") PopupMenu(mnuPopupGrid);
 }
 
-void frmClientDiaryMain::lvDiary_ItemClick(ListItem&) { glbCmd.MouseListClicked(lvDiary); }
+void frmClientDiaryMain::lvDiary_ItemClick(ListItem&) {
+    glbCmd.MouseListClicked(lvDiary);
+}
 
 void frmClientDiaryMain::lvDiary_ColumnClick(ColumnHeader& column) {
     const long key = column.Index() - 1;
@@ -138,7 +150,9 @@ void frmClientDiaryMain::lvDiary_ColumnClick(ColumnHeader& column) {
     lvDiary.Sorted = true;
 }
 
-void frmClientDiaryMain::lvCat_ItemClick(ListItem&) { glbCmd.MouseListClicked(lvCat); }
+void frmClientDiaryMain::lvCat_ItemClick(ListItem&) {
+    glbCmd.MouseListClicked(lvCat);
+}
 
 void frmClientDiaryMain::imgSplitter_MouseDown(int button, int, long x, long) {
     movingSplitter_ = button == vbLeftButton;
@@ -170,7 +184,9 @@ void frmClientDiaryMain::imgVert_MouseMove(int button, int, long, long y) {
     glbScreen.resize();
 }
 
-void frmClientDiaryMain::imgVert_MouseUp(int, int, long, long) { movingVert_ = false; }
+void frmClientDiaryMain::imgVert_MouseUp(int, int, long, long) {
+    movingVert_ = false;
+}
 
 frmClientDiaryMain& MainForm() {
     if (!gMainForm) {
@@ -180,6 +196,8 @@ frmClientDiaryMain& MainForm() {
     return *gMainForm;
 }
 
-void ResetMainForm() { gMainForm.reset(); }
+void ResetMainForm() {
+    gMainForm.reset();
+}
 
 }  // namespace orbidex

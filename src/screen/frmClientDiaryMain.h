@@ -212,7 +212,7 @@ private:
 
     bool movingSplitter_ = false;
     bool movingVert_ = false;
-    long grabbedAt_ = 0;  ///< where on the splitter the mouse took hold of it
+    long grabbedAt_ = 0;      ///< where on the splitter the mouse took hold of it
     std::string lastSecond_;  ///< the time of day at which the timer's body last ran
 };
 

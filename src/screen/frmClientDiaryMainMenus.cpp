@@ -16,13 +16,13 @@ namespace {
 // operation in this version of the program.
 const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
-        "mnuFileImport",     "mnuFileExport",          "mnuAppAdd",          "mnuAppEdit",
-        "mnuAppDelete",      "mnuAppReschedule",       "mnuAppRecurring",    "mnuAppPlanMeeting",
-        "mnuTaskMenu",       "mnuTaskHeadings",        "mnuNotesMenu",       "mnuSearchQuick",
-        "mnuOptScrapPaper",  "mnuToolsCalendar",       "mnuViewSetup",       "mnuOptionsDisplay",
+        "mnuFileImport",      "mnuFileExport",          "mnuAppAdd",          "mnuAppEdit",
+        "mnuAppDelete",       "mnuAppReschedule",       "mnuAppRecurring",    "mnuAppPlanMeeting",
+        "mnuTaskMenu",        "mnuTaskHeadings",        "mnuNotesMenu",       "mnuSearchQuick",
+        "mnuOptScrapPaper",   "mnuToolsCalendar",       "mnuViewSetup",       "mnuOptionsDisplay",
         "mnuOptionsListView", "mnuOptionsTaskHeadings", "mnuPingServer",      "mnuServerLoggon",
-        "mnuServerLogoff",   "mnuBetaServerEnforce",   "mnuBetaReindexTask", "mnuBetaTest(0)",
-        "mnuBetaTest(1)",    "mnuHelpAbout",           "mnuPopupGridAdd",    "mnuPopupGridEdit",
+        "mnuServerLogoff",    "mnuBetaServerEnforce",   "mnuBetaReindexTask", "mnuBetaTest(0)",
+        "mnuBetaTest(1)",     "mnuHelpAbout",           "mnuPopupGridAdd",    "mnuPopupGridEdit",
         "mnuPopupGridDelete", "mnuPopupGridReschedule",
     };
     return names;
@@ -30,8 +30,8 @@ const std::set<std::string>& entriesWithoutOperation() {
 
 const std::set<std::string>& keysWithoutOperation() {
     static const std::set<std::string> keys = {
-        "new",    "Find", "delete",     "year",  "showall", "current", "refresh",
-        "properties", "Event", "Appointment", "Task", "Note",   "Meeting",
+        "new",        "Find",  "delete",      "year", "showall", "current", "refresh",
+        "properties", "Event", "Appointment", "Task", "Note",    "Meeting",
     };
     return keys;
 }
@@ -52,7 +52,9 @@ bool frmClientDiaryMain::HasOperation(const ButtonMenu& entry) {
     return keysWithoutOperation().count(entry.Key) == 0;
 }
 
-void frmClientDiaryMain::EnableEntry(Menu& entry, bool enabled) { entry.Enabled = enabled && HasOperation(entry); }
+void frmClientDiaryMain::EnableEntry(Menu& entry, bool enabled) {
+    entry.Enabled = enabled && HasOperation(entry);
+}
 
 void frmClientDiaryMain::disableEntriesWithoutOperation() {
     for (Control* control : Controls())

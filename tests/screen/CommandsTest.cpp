@@ -63,9 +63,9 @@ TEST_F(CommandsTest, GridOrListIsSavedAndShown) {
 
 TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
     StartProgram();
-    for (Menu* entry : {&Form().mnuAppAdd, &Form().mnuAppEdit, &Form().mnuFileImport, &Form().mnuSearchQuick,
-                        &Form().mnuTaskMenu[0], &Form().mnuNotesMenu[5], &Form().mnuBetaTest[0],
-                        &Form().mnuPopupGridEdit, &Form().mnuPingServer})
+    for (Menu* entry :
+         {&Form().mnuAppAdd, &Form().mnuAppEdit, &Form().mnuFileImport, &Form().mnuSearchQuick, &Form().mnuTaskMenu[0],
+          &Form().mnuNotesMenu[5], &Form().mnuBetaTest[0], &Form().mnuPopupGridEdit, &Form().mnuPingServer})
         EXPECT_FALSE(entry->Enabled) << entry->Name();
     for (Menu* entry : {&Form().mnuFilePrint, &Form().mnuFileExit, &Form().mnuViewMode[2], &Form().mnuViewRefresh,
                         &Form().mnuBetaTest[3], &Form().mnuHelpContents})
@@ -128,8 +128,16 @@ TEST_F(CommandsTest, NoteModeAnswersTheListFilters) {
 
 TEST_F(CommandsTest, AClickedEventRowBecomesTheCurrentEvent) {
     WriteBytes(DataPath() + "D200406.dat",
-               "D200406050001\x1F" "20040605\x1F\x1F" "0900\x1F" "30\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F" "First\x1F\r\n"
-               "D200406050002\x1F" "20040605\x1F\x1F" "1000\x1F" "30\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F" "Second\x1F\r\n");
+               "D200406050001\x1F"
+               "20040605\x1F\x1F"
+               "0900\x1F"
+               "30\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F"
+               "First\x1F\r\n"
+               "D200406050002\x1F"
+               "20040605\x1F\x1F"
+               "1000\x1F"
+               "30\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F"
+               "Second\x1F\r\n");
     StartProgram();
     click("list");
     ListView& list = Form().lvDiary;

@@ -92,9 +92,7 @@ protected:
 
     MainWindow& window() { return *static_cast<MainWindow*>(window_); }
     frmClientDiaryMain& form() { return MainForm(); }
-    std::string heading() {
-        return FromQString(window().viewOf(form().lblHeading)->findChild<QLabel*>()->text());
-    }
+    std::string heading() { return FromQString(window().viewOf(form().lblHeading)->findChild<QLabel*>()->text()); }
     std::string panel(long index) {
         auto* bar = static_cast<StatusBarWidget*>(window().viewOf(form().status));
         return FromQString(bar->panelLabel(index)->text());
@@ -178,14 +176,15 @@ TEST_F(MainWindowTest, MenusToolBarAndIcons) {
     QStringList bar;
     for (QAction* action : window().menuBar()->actions())
         if (action->isVisible()) bar << action->text();
-    EXPECT_EQ(bar, (QStringList{"&File", "&Appointments", "&Tasks", "&Notes", "&Search", "&View", "T&ools",
-                                "Se&rver", "&Beta", "&Help"}));
+    EXPECT_EQ(bar, (QStringList{"&File", "&Appointments", "&Tasks", "&Notes", "&Search", "&View", "T&ools", "Se&rver",
+                                "&Beta", "&Help"}));
     QAction* print = entry(QStringLiteral("&File"), QStringLiteral("Print ..."));
     ASSERT_NE(print, nullptr);
     EXPECT_TRUE(print->isEnabled());
     EXPECT_EQ(print->shortcut(), QKeySequence(QStringLiteral("Ctrl+P")));
     EXPECT_FALSE(entry(QStringLiteral("&Appointments"), QStringLiteral("&Add Appointment"))->isEnabled());
-    EXPECT_EQ(entry(QStringLiteral("&View"), QStringLiteral("&Refresh"))->shortcut(), QKeySequence(QStringLiteral("F5")));
+    EXPECT_EQ(entry(QStringLiteral("&View"), QStringLiteral("&Refresh"))->shortcut(),
+              QKeySequence(QStringLiteral("F5")));
 
     EXPECT_FALSE(buttonAction("new")->isEnabled());
     EXPECT_EQ(buttonAction("print")->text(), QStringLiteral("Print   "));

@@ -51,8 +51,8 @@ TEST_F(PrintTest, TheGridPrintsItsCellsWithTheirColours) {
     const std::string plain = "<TD valign=top align=left>";
     const std::string day = "<TD valign=top align=left width=30%>";
     EXPECT_EQ(tableOf(page), "<TR>" + plain + "&nbsp;</TD>" + plain + "&nbsp;</TD>" + day +
-                                 "<FONT COLOR=Black>Mon-31</FONT></TD>" + day + "&nbsp;</TD>" + day + "&nbsp;</TD>\r\n" +
-                                 "<TR>" + plain + "<FONT COLOR=Black>9 </FONT></TD>" + plain +
+                                 "<FONT COLOR=Black>Mon-31</FONT></TD>" + day + "&nbsp;</TD>" + day +
+                                 "&nbsp;</TD>\r\n" + "<TR>" + plain + "<FONT COLOR=Black>9 </FONT></TD>" + plain +
                                  "<FONT COLOR=Black>am</FONT></TD>" + day + "<FONT COLOR=White>Event 2</FONT></TD>" +
                                  day + "<FONT COLOR=CornSilk>Event 3</FONT></TD>" + day +
                                  "<FONT COLOR=Ivory>Event 4</FONT></TD>\r\n" + kEnd);
@@ -81,9 +81,9 @@ TEST_F(PrintTest, EachModePrintsToItsOwnFile) {
     glbCmd.CommandPrint();
     glbScreen.SwitchMode("STAFF");
     glbCmd.CommandPrint();
-    EXPECT_EQ(platform_.DocumentsOpened(), (std::vector<std::string>{DataPath() + "fred Tasks.htm",
-                                                                     DataPath() + "fred Notes.htm",
-                                                                     DataPath() + "Staff.htm"}));
+    EXPECT_EQ(platform_.DocumentsOpened(),
+              (std::vector<std::string>{DataPath() + "fred Tasks.htm", DataPath() + "fred Notes.htm",
+                                        DataPath() + "Staff.htm"}));
     EXPECT_TRUE(FileExists(DataPath() + "fred Notes.htm"));
 
     glbScreen.SwitchMode("MESSAGE");

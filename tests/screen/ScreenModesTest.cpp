@@ -109,7 +109,7 @@ TEST_F(ScreenModesTest, EachModeShowsItsOwnControlsAndTitles) {
     EXPECT_EQ(Form().lblHeading.Caption(), "  Tasks");
     EXPECT_TRUE(Form().lvCat.Visible);
     for (Control* hidden : std::initializer_list<Control*>{&Form().gridDays, &Form().MonthView1, &Form().lvUsers,
-                                                            &Form().lblUsers, &Form().lvDiary})
+                                                           &Form().lblUsers, &Form().lvDiary})
         EXPECT_FALSE(hidden->Visible) << hidden->Name();
 
     glbScreen.SwitchMode("NOTE");
@@ -130,7 +130,7 @@ TEST_F(ScreenModesTest, EachModeShowsItsOwnControlsAndTitles) {
     glbScreen.SwitchMode("HOME");
     EXPECT_TRUE(Form().web.Visible);
     for (Control* hidden : std::initializer_list<Control*>{&Form().lblHeading, &Form().lvCat, &Form().gridDays,
-                                                            &Form().MonthView1, &Form().lvDiary, &Form().lvUsers})
+                                                           &Form().MonthView1, &Form().lvDiary, &Form().lvUsers})
         EXPECT_FALSE(hidden->Visible) << hidden->Name();
 
     glbScreen.SwitchMode("FILE");
@@ -146,8 +146,8 @@ TEST_F(ScreenModesTest, TheToolBarFollowsTheMode) {
     Toolbar& bar = Form().Toolbar1;
     glbConfig.DayWeekMonth = 7;
     glbScreen.SwitchMode("CALENDAR", true);
-    EXPECT_EQ(visibleButtons(bar), (std::vector<std::string>{"new", "Find", "delete", "print", "today", "days",
-                                                             "week", "month", "grid", "list", "properties"}));
+    EXPECT_EQ(visibleButtons(bar), (std::vector<std::string>{"new", "Find", "delete", "print", "today", "days", "week",
+                                                             "month", "grid", "list", "properties"}));
     EXPECT_EQ(bar.Buttons("week").Value(), tbrPressed);
     EXPECT_EQ(bar.Buttons("days").Value(), tbrUnpressed);
     EXPECT_EQ(bar.Buttons("new").Image(), "calendar");
@@ -164,9 +164,8 @@ TEST_F(ScreenModesTest, TheToolBarFollowsTheMode) {
 
     glbConfig.DayWeekMonth = 31;
     glbScreen.SwitchMode("STAFF");
-    EXPECT_EQ(visibleButtons(bar), (std::vector<std::string>{"new", "Find", "delete", "print", "today", "days",
-                                                             "week", "month", "refresh", "grid", "list",
-                                                             "properties"}));
+    EXPECT_EQ(visibleButtons(bar), (std::vector<std::string>{"new", "Find", "delete", "print", "today", "days", "week",
+                                                             "month", "refresh", "grid", "list", "properties"}));
     EXPECT_EQ(bar.Buttons("month").Value(), tbrPressed);
     EXPECT_EQ(bar.Buttons("new").Image(), "staff");
 
@@ -228,10 +227,10 @@ TEST_F(ScreenModesTest, TheToolBarButtonsHaveTheirCaptionsAndTips) {
     ButtonCollection& buttons = Form().Toolbar1.Buttons;
     ASSERT_EQ(buttons.Count(), 15);
     const std::vector<std::pair<std::string, std::string>> expected = {
-        {"new", "New     "},   {"Find", "Find    "},   {"delete", "Delete  "},  {"print", "Print   "},
-        {"today", "Today   "}, {"days", "Day     "},   {"week", "Week    "},    {"month", "Month   "},
-        {"year", "Year    "},  {"showall", "All     "}, {"current", "Current "}, {"refresh", "Server  "},
-        {"grid", "Grid   "},   {"list", "List   "},    {"properties", "Options  "},
+        {"new", "New     "},   {"Find", "Find    "},    {"delete", "Delete  "},      {"print", "Print   "},
+        {"today", "Today   "}, {"days", "Day     "},    {"week", "Week    "},        {"month", "Month   "},
+        {"year", "Year    "},  {"showall", "All     "}, {"current", "Current "},     {"refresh", "Server  "},
+        {"grid", "Grid   "},   {"list", "List   "},     {"properties", "Options  "},
     };
     for (long i = 1; i <= buttons.Count(); ++i) {
         EXPECT_EQ(buttons.Item(i)->Key(), expected[static_cast<size_t>(i - 1)].first);
