@@ -8,6 +8,8 @@ namespace orbidex {
 
 namespace {
 
+// One line of the block per entry, whatever its length.
+// clang-format off
 constexpr const char* kStyleLines[] = {
     "<STYLE>",
     "BODY {  font-size:8pt; FONT-FAMILY:Verdana;  }",
@@ -20,10 +22,10 @@ constexpr const char* kStyleLines[] = {
     "H2 {    font-size:160%; FONT-WEIGHT:NORMAL; margin:0px 0px 0px 0px; padding:0px; }",
     "H3 {    font-size:120%; FONT-WEIGHT:BOLD; margin:0px 0px 0px 0px; padding:1px; letter-spacing:0.05em; }",
     "H4 {    font-size:140%; FONT-WEIGHT:NORMAL; margin:0px 0px 0px 0px; padding:1px; }",
-    "H5 {    font-size:7pt; FONT-FAMILY:Arial; color:#00008B ; FONT-WEIGHT:NORMAL; margin:0px 0px 0px 0px; "
-    "padding: 0px 0px 0px 0px; }",
+    "H5 {    font-size:7pt; FONT-FAMILY:Arial; color:#00008B ; FONT-WEIGHT:NORMAL; margin:0px 0px 0px 0px; padding: 0px 0px 0px 0px; }",
     "</STYLE>",
 };
+// clang-format on
 
 }  // namespace
 
