@@ -198,14 +198,3 @@ TEST_F(MainWindowTest, MenusToolBarAndIcons) {
     ASSERT_EQ(platform_.documents.size(), 1U);
     EXPECT_TRUE(FileExists(platform_.documents[0]));
 }
-
-TEST_F(MainWindowTest, TheWindowKeepsItsPlaceWhenTheProgramEnds) {
-    window().move(40, 60);
-    window().resize(900, 650);
-    test::ProcessEvents();
-    EXPECT_THROW(form().UserClose(), ProgramEnded);
-    std::string settings;
-    ReadWholeFile(gStrIniFile, settings);
-    EXPECT_NE(settings.find("Width=" + std::to_string(PixelsToTwips(900)) + "\r\n"), std::string::npos);
-    EXPECT_NE(settings.find("WindowState=0\r\n"), std::string::npos);
-}
