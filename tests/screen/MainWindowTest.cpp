@@ -156,6 +156,7 @@ TEST_F(MainWindowTest, TheUserBrowsesTheDiaryByDayWeekFortnightAndMonth) {
 }
 
 TEST_F(MainWindowTest, TheOtherModesAndTheBrowserPane) {
+    glbConfig.ShowFolders = "1";  // the tree beside the shortcut bar
     const QString view = QStringLiteral("&View");
     ASSERT_NE(entry(view, QStringLiteral("&Notes")), nullptr);
     entry(view, QStringLiteral("&Notes"))->trigger();
