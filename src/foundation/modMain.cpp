@@ -11,6 +11,9 @@
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
 #include "foundation/clsPath.h"
+#include "platform/Platform.h"
+#include "screen/clsDiaryCommand.h"
+#include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
 
 namespace orbidex {
@@ -56,6 +59,33 @@ void loadDiary() {
     gCurrentEvent.TimeEvent = FormatDate(Now(), "hhmm");
 }
 
+// The command layer and the screen take the main window; the window opens on the
+// calendar.
+void buildMainWindow() {
+    glbCmd.init(MainForm());
+    glbLog.log("TOK - cmd.init", 0);
+    glbScreen = clsDiaryScreen();
+    glbLog.log("TOK - mainForm declared", 0);
+    glbScreen.setForm(MainForm());
+    glbLog.log("TOK - mainForm.setForm", 0);
+    glbScreen.drawForm(MainForm());
+    glbLog.log("TOK - mainForm.drawForm", 0);
+    glbScreen.SwitchMode("CALENDAR");
+    glbLog.log("TOK - mainForm.SwitchMode CALENDAR", 0);
+}
+
+// A client's session with the server begins here.
+void startSession() {
+    if (NETWORK_STRING != "CLIENT") {
+        glbConfig.runLocalModeOnly = "1";
+        return;
+    }
+    glbLog.log("NETWORK_STRING = CLIENT", 0);
+    platform().DoEvents();
+    glbScreen.showStatus();
+    platform().DoEvents();
+}
+
 void countDataFiles() {
     glbLog.log("About to count Data Files", 0);
     std::vector<std::string> files;
@@ -72,8 +102,10 @@ void modMain(const std::string& networkKind) {
     openLog();
     readSettings();
     loadDiary();
+    buildMainWindow();
+    startSession();
     countDataFiles();
-    MainForm().Show(false);
+    MainForm().timerSecond.Enabled = true;
 }
 
 }  // namespace orbidex

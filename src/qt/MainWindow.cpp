@@ -1,22 +1,16 @@
 #include "qt/MainWindow.h"
 
-#include <QCloseEvent>
-
-#include "qt/QtText.h"
+#include "qt/ProgramIcons.h"
+#include "qt/views/ControlWidget.h"
 #include "screen/frmClientDiaryMain.h"
 
 namespace orbidex {
 
-MainWindow::MainWindow(frmClientDiaryMain& form) : form_(form) {
-    setWindowTitle(form.Caption().empty() ? QStringLiteral("Orbidex") : ToQString(form.Caption));
-    if (form.Width > 0 && form.Height > 0) resize(TwipsToPixels(form.Width), TwipsToPixels(form.Height));
-    else resize(733, 503);
-}
-
-void MainWindow::closeEvent(QCloseEvent* event) {
-    int cancel = 0;
-    form_.Form_Unload(cancel);
-    if (cancel != 0) event->ignore();
+MainWindow::MainWindow(frmClientDiaryMain& form, QWidget* parent) : FormWindow(form, parent) {
+    setObjectName(QStringLiteral("frmClientDiaryMain"));
+    if (ControlWidget* splitter = viewOf(form.imgSplitter)) splitter->setCursor(Qt::SplitHCursor);
+    if (ControlWidget* splitter = viewOf(form.imgVert)) splitter->setCursor(Qt::SplitVCursor);
+    UseProgramIcons(*this);
 }
 
 }  // namespace orbidex

@@ -1,22 +1,18 @@
 #pragma once
-// The Qt window of frmClientDiaryMain.
+// The Qt window of frmClientDiaryMain: the form's window with its menus, tool bar,
+// views and status bar, the program's icons, and splitters that show they move.
 
-#include <QMainWindow>
+#include "qt/views/ControlWidget.h"  // FormWindow.h needs it whole
+#include "qt/views/FormWindow.h"
 
 namespace orbidex {
 
 class frmClientDiaryMain;
 
-class MainWindow : public QMainWindow {
+class MainWindow : public FormWindow {
     Q_OBJECT
 public:
-    explicit MainWindow(frmClientDiaryMain& form);
-
-protected:
-    void closeEvent(QCloseEvent* event) override;
-
-private:
-    frmClientDiaryMain& form_;
+    explicit MainWindow(frmClientDiaryMain& form, QWidget* parent = nullptr);
 };
 
 }  // namespace orbidex

@@ -1,19 +1,109 @@
 #pragma once
 // Where a user's intent, from a menu, the toolbar, the tree or the mouse, is turned
-// into work.
+// into work.  The main form's handlers only dispatch to these operations.
+
+#include <string>
+
+#include "platform/Platform.h"
 
 namespace orbidex {
 
+class FlexGrid;
+class ListView;
 class frmClientDiaryMain;
 
 class clsDiaryCommand {
 public:
+    /// Keeps the main form.
     void init(frmClientDiaryMain& form) { form_ = &form; }
     /// The one way the program stops: log off, keep the window's place, end at once.
     void CommandExit();
 
+    // The view of the calendar
+    /// Set the days the view shows (1, 7, 14, 31) and tick the matching menu entry;
+    /// they do not draw, the caller does.
+    void ViewDay();
+    void ViewWeek();
+    void ViewFortnight();
+    void ViewMonth();
+    /// Events in the grid or the list; the choice is saved and the view drawn.
+    void ViewGrid();
+    void ViewList();
+    /// Moves the view to today.
+    void ViewToday();
+    /// Reads the present mode's data again (the server's too, for a client).
+    void viewRefresh();
+    /// Shows or hides the browser pane with the program's page of past notes.
+    void viewBrowser();
+    /// Asks the server whether it is there and shows the answer.
+    void serverPing();
+
+    // The mouse on the views
+    /// A cell of the grid clicked: its event becomes the current one.
+    void MouseGridClicked(FlexGrid& grid);
+    /// A row of a list clicked.
+    void MouseListClicked(ListView& list);
+
+    // Printing: the present view as an HTML file in the data folder
+    void CommandPrint();
+    void ConvertListViewToHtml(ListView& list, const std::string& file);
+    void ConvertGridToHtml(FlexGrid& grid, const std::string& file);
+
+    // Entries of the tools, beta and help menus
+    /// Starts a companion program that stands beside this one.
+    void StartCompanionTool(const std::string& exeName);
+    /// Turns the log up to the detailed trace, or back down to errors.
+    void ToggleDetailedLogging();
+    /// Starts the updater beside the program and ends this run.
+    void RestartProgram();
+    /// The totals of the view in the status bar.
+    void ShowViewTotals();
+    /// How many events are in memory, in a message.
+    void ShowEventCount();
+    /// The help page for this kind of program.
+    void OpenHelpContents();
+    enum class MakersPage { Showcase, Suggestion, BugReport };
+    /// One of the maker's web pages, in the desktop's browser.
+    void OpenMakersPage(MakersPage page);
+
+    /// A tree node clicked: by its key (or its text) a mode, or a mode and a command.
+    void NavigationClicked(const std::string& key, const std::string& text);
+    /// A tool bar button, or an entry of its drop-down menu, by its key.
+    void ToolbarClicked(const std::string& key);
+
+    // Operations that the program does not have yet.  The menu entries and tool bar
+    // buttons that lead only here are disabled; the tree, whose nodes cannot be,
+    // reaches them and the status bar says so.
+    void EventAdd(VbDate date, const std::string& time);
+    void EventEdit();
+    void EventDelete();
+    void EventReschedule();
+    void EventAddMultidayEvent();
+    void TaskAdd(VbDate date);
+    void TaskEdit();
+    void TaskDelete();
+    void NoteAdd();
+    void NoteEdit();
+    void NoteDelete();
+    void BookMeeting(VbDate date, const std::string& time);
+    void Search();
+    void ShowOptions();
+    void ViewYear();
+    void serverRefreshStaffData();
+
+    /// A boolean property pair, read and written, with no other effect.
+    bool IsMenuTicked() const { return isMenuTicked_; }
+    void IsMenuTicked(bool ticked) { isMenuTicked_ = ticked; }
+
 private:
+    void setViewLength(int days, int menuIndex);
+    /// Redraws the calendar for its date, as a click on the month calendar would.
+    void redrawView();
+    void timerOn(bool on);
+    void unavailable(const std::string& what);
+
     frmClientDiaryMain* form_ = nullptr;
+    bool isMenuTicked_ = false;
 };
 
 extern clsDiaryCommand glbCmd;

@@ -1,27 +1,78 @@
 #pragma once
 // The controller of the main window: the present mode, what each mode shows and
-// hides, the tool bar, the tree and the status bar.
+// hides, the tool bar, the tree, the shortcut bar, the status bar and the layout.
 
+#include <cstdint>
 #include <string>
 
 namespace orbidex {
 
+class FlexGrid;
 class frmClientDiaryMain;
 
 class clsDiaryScreen {
 public:
     void setForm(frmClientDiaryMain& form) { form_ = &form; }
+    /// The one-time set-up of the window: tree, shortcut bar, tool bar, status bar,
+    /// the window's place from the settings file; then the window is shown and the
+    /// first view drawn.
+    void drawForm(frmClientDiaryMain& form);
+    /// Draws the first view: an empty calendar for today, then today's events.
+    void InitDiaryScreen();
     /// Shows `mode` ("HOME", "CALENDAR", "TASK", ...); the present mode again only
     /// with `force`.
     void SwitchMode(const std::string& mode, bool force = false);
-    /// Lays out the visible controls in the window.
+    /// Makes the tool bar's buttons once; `showText` shows their captions.
+    void CreateToolbarButtons(bool showText);
+    /// Presses the tool bar's view button that matches the days the view shows.
+    void PressViewButton();
+    /// The state of the server connection on the tool bar and the status bar.
+    void showStatus();
+    /// The title the companion program shows for this one.
+    std::string DisplayCaption();
+    /// The present date and time in the companion's format.
+    std::string DisplayTime();
+    /// A line about work in progress in the status bar, drawn at once.
+    void ShowProgress(const std::string& text);
+    /// Shares the grid's width among its day columns (when Autosize is 1).
+    void ResizeGridColumns(FlexGrid& grid);
+    /// Lays out the visible controls in the window's client area.
     void resize();
+
     /// The present mode.
     const std::string& Mode() const { return mode_; }
 
+    // The borders the splitters move (twips); kept for the run only.
+    long ColumnWidth() const { return columnWidth_; }
+    void SetColumnWidth(long width);
+    long BrowserHeight() const { return browserHeight_; }
+    void SetBrowserHeight(long height);
+
+    // Values the companion keeps in the shared settings file.
+    std::string TimeFormat;   ///< format of DisplayTime
+    int16_t WorkingFlag = 0;  ///< 0 while the user is away from the desk
+
 private:
+    void drawTree();
+    void drawShortcuts();
+    void drawStatusBar();
+    void showBars();
+    void setUpMode(const std::string& mode);
+    void setUpHome();
+    void setUpCalendar();
+    void setUpTasks();
+    void setUpNotes();
+    void setUpStaff();
+    void setUpMessages();
+    void setUpFiles();
+    void setUpMoney();
+    void toolbarForMode(const std::string& mode);
+    void selectTreeNode(const std::string& key);
+
     frmClientDiaryMain* form_ = nullptr;
     std::string mode_;
+    long columnWidth_ = 0;    ///< 0: the month calendar's own width
+    long browserHeight_ = 0;  ///< 0: a third of the main area
 };
 
 extern clsDiaryScreen glbScreen;

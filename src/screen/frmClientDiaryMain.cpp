@@ -1,18 +1,191 @@
+// The main window's handlers: loading, resizing and closing the window, the clicks on
+// its controls, and the two splitters.
 #include "screen/frmClientDiaryMain.h"
 
 #include <memory>
 
+#include "config/clsConfigDiary.h"
+#include "diary/cDiaryRecords.h"
+#include "foundation/ProgramState.h"
+#include "foundation/VbDate.h"
 #include "screen/clsDiaryCommand.h"
+#include "screen/clsDiaryScreen.h"
 
 namespace orbidex {
 
 namespace {
+
 std::unique_ptr<frmClientDiaryMain> gMainForm;
+
+}  // namespace
+
+frmClientDiaryMain::frmClientDiaryMain() : Form("frmClientDiaryMain") {
+    Caption = "Brindlewick Software's Orbidex";
+    Move(0, 0, 9600, 7200);  // the design size; the settings give the real place
+    placeControls();
+    bindControls();
+    bindMenus();
+    disableEntriesWithoutOperation();
+}
+
+// The look of the controls and their place before the first layout.
+void frmClientDiaryMain::placeControls() {
+    mnuPopupGrid.Visible = false;
+    lvView.View = lvwIcon;
+    lvView.Visible = false;
+    tv.Visible = false;
+    lvCat.View = lvwReport;
+    lvCat.FullRowSelect = true;
+    lvDiary.View = lvwReport;
+    lvDiary.FullRowSelect = true;
+    lvUsers.View = lvwReport;
+    lvUsers.Checkboxes = true;
+    lvUsers.Visible = false;
+    lblUsers.Visible = false;
+    lblHeading.FontName = "Arial";
+    lblHeading.FontSize = 12;
+    lblHeading.FontBold = true;
+    lblHeading.Move(4800, 0, 6000, 375);
+    for (Label* splitter : {&imgSplitter, &imgVert}) splitter->BackColor = vbButtonShadow;
+    imgVert.Visible = false;
+    web.Visible = false;
+    lstTasks.Visible = false;
+    MonthView1.Move(0, 0, 3600, 2700);
+    lvCat.Move(0, 2760, 3600, 3000);
+    gridDays.Move(4800, 375, 6000, 5000);
+    lvDiary.Move(4800, 375, 6000, 5000);
+    lvDiary.Visible = false;
+    timerSecond.Interval = 500;  // often enough that no second is missed
+}
+
+void frmClientDiaryMain::bindControls() {
+    tv.onNodeClick = [this](Node& node) { tv_NodeClick(node); };
+    lvView.onItemClick = [this](ListItem& item) { lvView_ItemClick(item); };
+    Toolbar1.onButtonClick = [this](Button& button) { Toolbar1_ButtonClick(button); };
+    Toolbar1.onButtonMenuClick = [this](ButtonMenu& entry) { Toolbar1_ButtonMenuClick(entry); };
+    MonthView1.onDateClick = [this](VbDate day) { MonthView1_DateClick(day); };
+    gridDays.onClick = [this] { gridDays_Click(); };
+    gridDays.onMouseUp = [this](int button, int shift, long x, long y) { gridDays_MouseUp(button, shift, x, y); };
+    lvDiary.onItemClick = [this](ListItem& item) { lvDiary_ItemClick(item); };
+    lvDiary.onColumnClick = [this](ColumnHeader& column) { lvDiary_ColumnClick(column); };
+    lvCat.onItemClick = [this](ListItem& item) { lvCat_ItemClick(item); };
+    imgSplitter.onMouseDown = [this](int b, int s, long x, long y) { imgSplitter_MouseDown(b, s, x, y); };
+    imgSplitter.onMouseMove = [this](int b, int s, long x, long y) { imgSplitter_MouseMove(b, s, x, y); };
+    imgSplitter.onMouseUp = [this](int b, int s, long x, long y) { imgSplitter_MouseUp(b, s, x, y); };
+    imgVert.onMouseDown = [this](int b, int s, long x, long y) { imgVert_MouseDown(b, s, x, y); };
+    imgVert.onMouseMove = [this](int b, int s, long x, long y) { imgVert_MouseMove(b, s, x, y); };
+    imgVert.onMouseUp = [this](int b, int s, long x, long y) { imgVert_MouseUp(b, s, x, y); };
+    timerSecond.onTimer = [this] { timerSecond_Timer(); };
+}
+
+void frmClientDiaryMain::Form_Load() {
+    web.Navigate2("about:blank");
+    timerSecond.Enabled = false;  // no tick before the start-up is over
+    MonthView1.Value = Today();
+    MonthView1_DateClick(Today());
+}
+
+void frmClientDiaryMain::Form_Resize() {
+    glbScreen.resize();
+    ResizeGridColumns();
 }
 
 void frmClientDiaryMain::Form_Unload(int& cancel) {
     cancel = 1;
     glbCmd.CommandExit();
+}
+
+void frmClientDiaryMain::ResizeGridColumns() {
+    if (glbConfig.GetValue("appointments", "AutosizeWidth") == "1") glbScreen.ResizeGridColumns(gridDays);
+}
+
+void frmClientDiaryMain::timerSecond_Timer() {
+    const std::string second = FormatDate(Now(), "hh:mm:ss");
+    if (second == lastSecond_) return;
+    lastSecond_ = second;
+}
+
+void frmClientDiaryMain::tv_NodeClick(Node& node) {
+    glbCmd.NavigationClicked(node.Key(), node.Text);
+}
+
+void frmClientDiaryMain::lvView_ItemClick(ListItem& item) {
+    glbScreen.SwitchMode(item.Key);
+}
+
+void frmClientDiaryMain::Toolbar1_ButtonClick(Button& button) {
+    glbCmd.ToolbarClicked(button.Key);
+}
+
+void frmClientDiaryMain::Toolbar1_ButtonMenuClick(ButtonMenu& entry) {
+    glbCmd.ToolbarClicked(entry.Key);
+}
+
+void frmClientDiaryMain::MonthView1_DateClick(VbDate day) {
+    glbNumDaysToDisplay = glbConfig.DayWeekMonth;
+    // The staff planner draws its own day; everywhere else the calendar moves.
+    if (glbScreen.Mode() == "STAFF") return;
+    glbEvents.CalendarDateClicked(*this, day);
+}
+
+void frmClientDiaryMain::gridDays_Click() {
+    glbCmd.MouseGridClicked(gridDays);
+}
+
+void frmClientDiaryMain::gridDays_MouseUp(int button, int, long, long) {
+    if (button == vbRightButton && glbScreen.Mode() == "CALENDAR") PopupMenu(mnuPopupGrid);
+}
+
+void frmClientDiaryMain::lvDiary_ItemClick(ListItem&) {
+    glbCmd.MouseListClicked(lvDiary);
+}
+
+void frmClientDiaryMain::lvDiary_ColumnClick(ColumnHeader& column) {
+    const long key = column.Index() - 1;
+    if (lvDiary.Sorted && lvDiary.SortKey == key)
+        lvDiary.SortOrder = lvDiary.SortOrder == lvwAscending ? lvwDescending : lvwAscending;
+    else
+        lvDiary.SortOrder = lvwAscending;
+    lvDiary.SortKey = key;
+    lvDiary.Sorted = true;
+}
+
+void frmClientDiaryMain::lvCat_ItemClick(ListItem&) {
+    glbCmd.MouseListClicked(lvCat);
+}
+
+void frmClientDiaryMain::imgSplitter_MouseDown(int button, int, long x, long) {
+    movingSplitter_ = button == vbLeftButton;
+    grabbedAt_ = x;
+}
+
+void frmClientDiaryMain::imgSplitter_MouseMove(int button, int, long x, long) {
+    if (!movingSplitter_ || (button & vbLeftButton) == 0) return;
+    const long columnLeft = MonthView1.Visible ? static_cast<long>(MonthView1.Left) : static_cast<long>(lvUsers.Left);
+    glbScreen.SetColumnWidth(imgSplitter.Left + x - grabbedAt_ - columnLeft);
+    glbScreen.resize();
+}
+
+void frmClientDiaryMain::imgSplitter_MouseUp(int, int, long, long) {
+    if (!movingSplitter_) return;
+    movingSplitter_ = false;
+    ResizeGridColumns();
+}
+
+void frmClientDiaryMain::imgVert_MouseDown(int button, int, long, long y) {
+    movingVert_ = button == vbLeftButton;
+    grabbedAt_ = y;
+}
+
+void frmClientDiaryMain::imgVert_MouseMove(int button, int, long, long y) {
+    if (!movingVert_ || (button & vbLeftButton) == 0) return;
+    const long paneBottom = web.Top + web.Height;
+    glbScreen.SetBrowserHeight(paneBottom - (imgVert.Top + y - grabbedAt_) - imgVert.Height);
+    glbScreen.resize();
+}
+
+void frmClientDiaryMain::imgVert_MouseUp(int, int, long, long) {
+    movingVert_ = false;
 }
 
 frmClientDiaryMain& MainForm() {
@@ -23,6 +196,8 @@ frmClientDiaryMain& MainForm() {
     return *gMainForm;
 }
 
-void ResetMainForm() { gMainForm.reset(); }
+void ResetMainForm() {
+    gMainForm.reset();
+}
 
 }  // namespace orbidex

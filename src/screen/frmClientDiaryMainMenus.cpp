@@ -1,0 +1,163 @@
+// The menu dispatch of the main window: what each entry calls, its shortcut key,
+// and the entries that stay disabled because the program has no operation for them.
+#include <set>
+
+#include "foundation/ProgramState.h"
+#include "foundation/VbString.h"
+#include "screen/clsDiaryCommand.h"
+#include "screen/clsDiaryScreen.h"
+#include "screen/frmClientDiaryMain.h"
+
+namespace orbidex {
+
+namespace {
+
+// Entries (by name, or name and index for entry arrays) and tool bar keys with no
+// operation in this version of the program.
+const std::set<std::string>& entriesWithoutOperation() {
+    static const std::set<std::string> names = {
+        "mnuFileImport",      "mnuFileExport",          "mnuAppAdd",          "mnuAppEdit",
+        "mnuAppDelete",       "mnuAppReschedule",       "mnuAppRecurring",    "mnuAppPlanMeeting",
+        "mnuTaskMenu",        "mnuTaskHeadings",        "mnuNotesMenu",       "mnuSearchQuick",
+        "mnuOptScrapPaper",   "mnuToolsCalendar",       "mnuViewSetup",       "mnuOptionsDisplay",
+        "mnuOptionsListView", "mnuOptionsTaskHeadings", "mnuPingServer",      "mnuServerLoggon",
+        "mnuServerLogoff",    "mnuBetaServerEnforce",   "mnuBetaReindexTask", "mnuBetaTest(0)",
+        "mnuBetaTest(1)",     "mnuHelpAbout",           "mnuPopupGridAdd",    "mnuPopupGridEdit",
+        "mnuPopupGridDelete", "mnuPopupGridReschedule",
+    };
+    return names;
+}
+
+const std::set<std::string>& keysWithoutOperation() {
+    static const std::set<std::string> keys = {
+        "new",        "Find",  "delete",      "year", "showall", "current", "refresh",
+        "properties", "Event", "Appointment", "Task", "Note",    "Meeting",
+    };
+    return keys;
+}
+
+}  // namespace
+
+bool frmClientDiaryMain::HasOperation(const Menu& entry) {
+    const auto& names = entriesWithoutOperation();
+    if (names.count(entry.Name()) != 0) return false;
+    return names.count(entry.Name() + "(" + CStr(entry.Index()) + ")") == 0;
+}
+
+bool frmClientDiaryMain::HasOperation(const Button& button) {
+    return keysWithoutOperation().count(button.Key) == 0;
+}
+
+bool frmClientDiaryMain::HasOperation(const ButtonMenu& entry) {
+    return keysWithoutOperation().count(entry.Key) == 0;
+}
+
+void frmClientDiaryMain::EnableEntry(Menu& entry, bool enabled) {
+    entry.Enabled = enabled && HasOperation(entry);
+}
+
+void frmClientDiaryMain::disableEntriesWithoutOperation() {
+    for (Control* control : Controls())
+        if (auto* entry = dynamic_cast<Menu*>(control)) EnableEntry(*entry, true);
+}
+
+void frmClientDiaryMain::bindMenus() {
+    mnuFilePrint.Shortcut = "Ctrl+P";
+    mnuFilePrint.onClick = [] { glbCmd.CommandPrint(); };
+    mnuFileExit.onClick = [] { glbCmd.CommandExit(); };
+
+    mnuAppAdd.Shortcut = "Ctrl+N";
+    mnuAppAdd.onClick = [] { glbCmd.EventAdd(0, ""); };
+    mnuAppEdit.onClick = [] { glbCmd.EventEdit(); };
+    mnuAppDelete.onClick = [] { glbCmd.EventDelete(); };
+    mnuAppReschedule.onClick = [] {
+        glbCmd.EventReschedule();
+        glbScreen.resize();
+    };
+    mnuAppRecurring.onClick = [] { glbCmd.EventAddMultidayEvent(); };
+    mnuAppPlanMeeting.onClick = [this] { glbCmd.BookMeeting(MonthView1.Value, ""); };
+
+    for (int i = 0; i < static_cast<int>(mnuTaskMenu.size()); ++i) {
+        mnuTaskMenu[i].SetIndex(i);
+        mnuTaskMenu[i].onClick = [i] {
+            if (i == 0) glbCmd.TaskAdd(0);
+            if (i == 1) glbCmd.TaskEdit();
+            if (i == 2) glbCmd.TaskDelete();
+            glbScreen.resize();
+        };
+    }
+    mnuTaskHeadings.onClick = [] {
+        glbScreen.SwitchMode("TASK");
+        glbCmd.ShowOptions();
+    };
+    for (int i = 0; i < static_cast<int>(mnuNotesMenu.size()); ++i) {
+        mnuNotesMenu[i].SetIndex(i);
+        mnuNotesMenu[i].onClick = [i] {
+            if (i == 0) glbCmd.NoteAdd();
+            if (i == 1) glbCmd.NoteEdit();
+            if (i == 2) glbCmd.NoteDelete();
+            glbScreen.resize();
+        };
+    }
+    mnuSearchQuick.Shortcut = "Ctrl+F";
+    mnuSearchQuick.onClick = [] { glbCmd.Search(); };
+
+    bindViewMenus();
+
+    mnuToolsCalendar.onClick = [] { glbCmd.ViewYear(); };
+    mnuToolsTobrin.onClick = [] { glbCmd.StartCompanionTool("tobrin.exe"); };
+    mnuToolsQuickAdd.onClick = [] { glbCmd.StartCompanionTool("sulvane.exe"); };
+    mnuToolsTimesheet.onClick = [] { glbCmd.StartCompanionTool("kestrop.exe"); };
+    mnuViewSetup.onClick = [] { glbCmd.ShowOptions(); };
+    mnuPingServer.onClick = [] { glbCmd.serverPing(); };
+
+    mnuBetaTestLog.onClick = [] { glbCmd.ToggleDetailedLogging(); };
+    mnuBetaRestart.onClick = [] { glbCmd.RestartProgram(); };
+    for (int i = 0; i < static_cast<int>(mnuBetaTest.size()); ++i) mnuBetaTest[i].SetIndex(i);
+    mnuBetaTest[2].onClick = [] { glbCmd.ShowViewTotals(); };
+    mnuBetaTest[3].onClick = [] { glbCmd.ShowEventCount(); };
+
+    mnuHelpContents.Shortcut = "F1";
+    mnuHelpContents.onClick = [] { glbCmd.OpenHelpContents(); };
+    mnuHelpShowcase.onClick = [] { glbCmd.OpenMakersPage(clsDiaryCommand::MakersPage::Showcase); };
+    mnuHelpSuggest.onClick = [] { glbCmd.OpenMakersPage(clsDiaryCommand::MakersPage::Suggestion); };
+    mnuHelpBugReport.onClick = [] { glbCmd.OpenMakersPage(clsDiaryCommand::MakersPage::BugReport); };
+
+    mnuPopupGridAdd.onClick = [] { glbCmd.EventAdd(0, ""); };
+    mnuPopupGridEdit.onClick = [] { glbCmd.EventEdit(); };
+    mnuPopupGridDelete.onClick = [] { glbCmd.EventDelete(); };
+}
+
+void frmClientDiaryMain::bindViewMenus() {
+    static const char* const kModes[] = {"HOME", "CALENDAR", "TASK", "NOTE", "CONTACT", "STAFF", "HISTORY"};
+    for (int i = 0; i < static_cast<int>(mnuViewMode.size()); ++i) {
+        mnuViewMode[i].SetIndex(i);
+        mnuViewMode[i].onClick = [i] { glbScreen.SwitchMode(kModes[i]); };
+    }
+    mnuViewMode[0].Shortcut = "Ctrl+Shift+H";
+    mnuViewMode[1].Shortcut = "Ctrl+Shift+C";
+    mnuViewMode[2].Shortcut = "Ctrl+Shift+T";
+    mnuViewMode[3].Shortcut = "Ctrl+Shift+N";
+
+    static const char* const kLengthKeys[] = {"Ctrl+1", "Ctrl+2", "Ctrl+3", "Ctrl+4"};
+    for (int i = 0; i < static_cast<int>(mnuViewType.size()); ++i) {
+        mnuViewType[i].SetIndex(i);
+        mnuViewType[i].Shortcut = kLengthKeys[i];
+        mnuViewType[i].onClick = [this, i] {
+            if (i == 0) glbCmd.ViewDay();
+            if (i == 1) glbCmd.ViewWeek();
+            if (i == 2) glbCmd.ViewFortnight();
+            if (i == 3) glbCmd.ViewMonth();
+            MonthView1_DateClick(MonthView1.Value);
+        };
+    }
+    mnuViewGrid.Shortcut = "Ctrl+G";
+    mnuViewGrid.onClick = [] { glbCmd.ViewGrid(); };
+    mnuViewList.Shortcut = "Ctrl+L";
+    mnuViewList.onClick = [] { glbCmd.ViewList(); };
+    mnuViewBrowser.onClick = [] { glbCmd.viewBrowser(); };
+    mnuViewRefresh.Shortcut = "F5";
+    mnuViewRefresh.onClick = [] { glbCmd.viewRefresh(); };
+}
+
+}  // namespace orbidex

@@ -1,0 +1,317 @@
+// The command layer as the user reaches it: menu entries, tool bar keys, tree keys,
+// clicks on the lists, the end of the program.
+#include <gtest/gtest.h>
+
+#include "MainScreenFixture.h"
+#include "config/clsConfigDiary.h"
+#include "diary/cDiaryRecords.h"
+#include "foundation/ProgramState.h"
+#include "foundation/VbString.h"
+#include "screen/clsDiaryCommand.h"
+#include "screen/clsDiaryScreen.h"
+
+using namespace orbidex;
+
+class CommandsTest : public test::MainScreenFixture {
+protected:
+    void click(const std::string& key) { Form().Toolbar1.UserClickButton(Form().Toolbar1.Buttons(key)); }
+    std::vector<bool> viewTicks() {
+        std::vector<bool> ticks;
+        for (Menu& entry : Form().mnuViewType) ticks.push_back(entry.Checked);
+        return ticks;
+    }
+};
+
+TEST_F(CommandsTest, TheViewLengthComesFromTheToolBarAndTheMenu) {
+    StartProgram();
+    click("week");
+    EXPECT_EQ(glbConfig.DayWeekMonth, 7);
+    EXPECT_EQ(glbNumDaysToDisplay, 7);
+    EXPECT_EQ(viewTicks(), (std::vector<bool>{false, true, false, false}));
+    EXPECT_EQ(Form().Toolbar1.Buttons("week").Value(), tbrPressed);
+
+    Form().mnuViewType[3].UserClick();
+    EXPECT_EQ(glbConfig.DayWeekMonth, 31);
+    EXPECT_EQ(viewTicks(), (std::vector<bool>{false, false, false, true}));
+    EXPECT_EQ(Form().Toolbar1.Buttons("month").Value(), tbrPressed);
+    EXPECT_EQ(Form().Toolbar1.Buttons("week").Value(), tbrUnpressed);
+
+    Form().mnuViewType[2].UserClick();
+    EXPECT_EQ(glbConfig.DayWeekMonth, 14);
+    EXPECT_EQ(Form().Toolbar1.Buttons("month").Value(), tbrUnpressed);
+    glbCmd.ToolbarClicked("days");
+    EXPECT_EQ(glbNumDaysToDisplay, 1);
+    EXPECT_EQ(viewTicks(), (std::vector<bool>{true, false, false, false}));
+}
+
+TEST_F(CommandsTest, GridOrListIsSavedAndShown) {
+    StartProgram();
+    click("list");
+    EXPECT_EQ(glbConfig.GridOrList, "LIST");
+    EXPECT_NE(ReadBytes(gStrIniFile).find("GridOrList=LIST\r\n"), std::string::npos);
+    EXPECT_FALSE(Form().gridDays.Visible);
+    EXPECT_TRUE(Form().lvDiary.Visible);
+    glbScreen.SwitchMode("TASK");
+    glbScreen.SwitchMode("CALENDAR");
+    EXPECT_TRUE(Form().lvDiary.Visible);
+
+    Form().mnuViewGrid.UserClick();
+    EXPECT_NE(ReadBytes(gStrIniFile).find("GridOrList=GRID\r\n"), std::string::npos);
+    EXPECT_TRUE(Form().gridDays.Visible);
+    EXPECT_FALSE(Form().lvDiary.Visible);
+}
+
+TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
+    StartProgram();
+    for (Menu* entry :
+         {&Form().mnuAppAdd, &Form().mnuAppEdit, &Form().mnuFileImport, &Form().mnuSearchQuick, &Form().mnuTaskMenu[0],
+          &Form().mnuNotesMenu[5], &Form().mnuBetaTest[0], &Form().mnuPopupGridEdit, &Form().mnuPingServer})
+        EXPECT_FALSE(entry->Enabled) << entry->Name();
+    for (Menu* entry : {&Form().mnuFilePrint, &Form().mnuFileExit, &Form().mnuViewMode[2], &Form().mnuViewRefresh,
+                        &Form().mnuBetaTest[3], &Form().mnuHelpContents})
+        EXPECT_TRUE(entry->Enabled) << entry->Name();
+
+    // A task list asks to enable its entries; they stay off, and a click does nothing.
+    glbScreen.SwitchMode("TASK");
+    EXPECT_FALSE(Form().mnuTaskMenu[0].Enabled);
+    Form().mnuTaskMenu[0].UserClick();
+    Form().mnuAppAdd.UserClick();
+    EXPECT_EQ(Panel(1), "");
+
+    Toolbar& bar = Form().Toolbar1;
+    EXPECT_FALSE(bar.Buttons("new").Enabled);
+    EXPECT_FALSE(bar.Buttons("new").ButtonMenus(1)->Enabled);
+    EXPECT_FALSE(bar.Buttons("Find").Enabled);
+    EXPECT_TRUE(bar.Buttons("print").Enabled);
+    bar.UserClickButton(bar.Buttons("new"));
+    bar.UserClickButtonMenu(*bar.Buttons("new").ButtonMenus(2));
+    EXPECT_EQ(Panel(1), "");
+}
+
+TEST_F(CommandsTest, TreeKeysLeadIntoTheirModes) {
+    StartProgram();
+    TreeView& tree = Form().tv;
+    tree.UserClickNode(*tree.Nodes.Item("TASK"));
+    EXPECT_EQ(glbScreen.Mode(), "TASK");
+    EXPECT_TRUE(LogHas("DEBUG -  key = TASK text = Tasks"));
+    tree.UserClickNode(*tree.Nodes.Item("CALENDARpublic_events"));
+    EXPECT_EQ(glbScreen.Mode(), "CALENDAR");
+    tree.UserClickNode(*tree.Nodes.Item("HOME"));
+    EXPECT_EQ(glbScreen.Mode(), "HOME");
+    tree.UserClickNode(*tree.Nodes.Item("public_contacts"));
+    EXPECT_EQ(glbScreen.Mode(), "HOME");
+    glbCmd.NavigationClicked("STAFF_PLANNER", "");
+    EXPECT_EQ(glbScreen.Mode(), "STAFF");
+    glbCmd.NavigationClicked("OVERVIEW_PAGE", "");
+    EXPECT_EQ(glbScreen.Mode(), "HOME");
+
+    // A node whose command the program does not have yet says so.
+    tree.UserClickNode(*tree.Nodes.Item("NOTE_ADDNEW"));
+    EXPECT_EQ(glbScreen.Mode(), "NOTE");
+    EXPECT_EQ(Panel(1), "Not available yet: adding a note");
+    glbCmd.NavigationClicked("", "Add New Event");
+    EXPECT_EQ(glbScreen.Mode(), "CALENDAR");
+    EXPECT_EQ(Panel(1), "Not available yet: adding an event");
+
+    Form().lvView.UserClickItem(Form().lvView.ListItems(3));
+    EXPECT_EQ(glbScreen.Mode(), "TASK");
+}
+
+TEST_F(CommandsTest, NoteModeAnswersTheListFilters) {
+    StartProgram();
+    glbScreen.SwitchMode("NOTE");
+    glbCmd.ToolbarClicked("showall");
+    EXPECT_EQ(Panel(1), "All Notes already displayed");
+    glbCmd.ToolbarClicked("todaystasks");
+    EXPECT_EQ(Panel(1), "current Notes already displayed");
+}
+
+TEST_F(CommandsTest, AClickedEventRowBecomesTheCurrentEvent) {
+    WriteBytes(DataPath() + "D200406.dat",
+               "D200406050001\x1F"
+               "20040605\x1F\x1F"
+               "0900\x1F"
+               "30\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F"
+               "First\x1F\r\n"
+               "D200406050002\x1F"
+               "20040605\x1F\x1F"
+               "1000\x1F"
+               "30\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F"
+               "Second\x1F\r\n");
+    StartProgram();
+    click("list");
+    ListView& list = Form().lvDiary;
+    list.ListItems.Add("", "D200406050002");
+    list.UserClickItem(list.ListItems(1));
+    EXPECT_EQ(gintcur, glbEvents.SelectDiaryRecordFromID("D200406050002"));
+    EXPECT_GE(gintcur, 0);
+    EXPECT_FALSE(Form().mnuAppEdit.Enabled);  // no editing in this version yet
+
+    glbScreen.SwitchMode("HOME");
+    list.UserClickItem(list.ListItems(1));
+    EXPECT_EQ(platform_.MessageTexts().back(), "MouseListClicked not setup for this data type yet");
+}
+
+TEST_F(CommandsTest, ColumnHeadingsSortTheEventListBothWays) {
+    StartProgram();
+    ListView& list = Form().lvDiary;
+    list.ColumnHeaders.Add(" ");
+    list.ColumnHeaders.Add("Time");
+    for (const char* time : {"1000", "0900", "1100"}) list.ListItems.Add("").SetSubItems(1, time);
+    list.UserClickColumn(2);
+    EXPECT_EQ(list.ListItems(1).SubItems(1), "0900");
+    list.UserClickColumn(2);
+    EXPECT_EQ(list.ListItems(1).SubItems(1), "1100");
+    list.UserClickColumn(1);
+    EXPECT_EQ(list.SortOrder(), lvwAscending);
+    EXPECT_EQ(list.SortKey(), 0);
+}
+
+TEST_F(CommandsTest, TheStaffGridTellsOfItsCells) {
+    StartProgram();
+    glbScreen.SwitchMode("STAFF");
+    FlexGrid& grid = Form().gridDays;
+    grid.Rows = 3;
+    grid.Cols = 3;
+    grid.SetTextMatrix(1, 2, "Meeting with Ann");
+    grid.UserClickCell(1, 2);
+    EXPECT_EQ(grid.ToolTipText(), "Meeting with Ann");
+    EXPECT_EQ(Panel(2), " Meeting with Ann");
+    grid.Row = 2;
+    grid.Col = 2;
+    grid.CellBackColor = static_cast<OleColor>(glbConfig.spanning_BackColor);
+    grid.UserClickCell(2, 2);
+    EXPECT_EQ(grid.ToolTipText(), "Blank Timeslot BUSY");
+}
+
+TEST_F(CommandsTest, TheBrowserPaneOpensUnderTheView) {
+    StartProgram();
+    Form().UserResize(12000, 8000, 11880, 7400);
+    Form().mnuViewBrowser.UserClick();
+    EXPECT_TRUE(Form().mnuViewBrowser.Checked);
+    EXPECT_TRUE(Form().web.Visible);
+    EXPECT_EQ(Form().web.LocationURL(), Stored("__view.html"));
+    EXPECT_TRUE(Form().imgVert.Visible);
+    EXPECT_EQ(Form().gridDays.Top + Form().gridDays.Height, Form().imgVert.Top);
+    EXPECT_EQ(Form().imgVert.Top + Form().imgVert.Height, Form().web.Top);
+
+    // The border between them follows the splitter.
+    const long paneTop = Form().web.Top;
+    Form().imgVert.UserMouseDown(vbLeftButton, 0, 100, 30);
+    Form().imgVert.UserMouseMove(vbLeftButton, 0, 100, -270);
+    Form().imgVert.UserMouseUp(vbLeftButton, 0, 100, -270);
+    EXPECT_EQ(Form().web.Top, paneTop - 300);
+
+    Form().mnuViewBrowser.UserClick();
+    EXPECT_FALSE(Form().web.Visible);
+    EXPECT_FALSE(Form().imgVert.Visible);
+}
+
+TEST_F(CommandsTest, TheCalendarColumnFollowsItsSplitter) {
+    StartProgram();
+    Form().UserResize(15000, 9000, 14880, 8400);
+    FlexGrid& grid = Form().gridDays;
+    EXPECT_EQ(grid.Left, Form().imgSplitter.Left + Form().imgSplitter.Width);
+    EXPECT_EQ(grid.Left + grid.Width, 14880);
+    EXPECT_EQ(grid.Top, Form().lblHeading.Top + Form().lblHeading.Height);
+    EXPECT_GE(Form().MonthView1.Left, Form().lvView.Left + Form().lvView.Width);
+    EXPECT_EQ(Form().lvCat.Width, Form().MonthView1.Width);
+
+    const long gridWidth = grid.Width;
+    const long columnWidth = Form().MonthView1.Width;
+    Form().imgSplitter.UserMouseDown(vbLeftButton, 0, 30, 500);
+    Form().imgSplitter.UserMouseMove(vbLeftButton, 0, 630, 500);
+    Form().imgSplitter.UserMouseUp(vbLeftButton, 0, 630, 500);
+    EXPECT_EQ(Form().MonthView1.Width, columnWidth + 600);
+    EXPECT_EQ(grid.Width, gridWidth - 600);
+    // A move without the button held moves nothing.
+    Form().imgSplitter.UserMouseMove(0, 0, 900, 500);
+    EXPECT_EQ(Form().MonthView1.Width, columnWidth + 600);
+}
+
+TEST_F(CommandsTest, DayColumnsShareTheGridsWidth) {
+    StartProgram();
+    FlexGrid& grid = Form().gridDays;
+    grid.Cols = 9;
+    grid.SetColWidth(0, 600);
+    grid.SetColWidth(1, 351);
+    grid.Width = 9000;
+    glbConfig.DayWeekMonth = 7;
+    glbConfig.Autosize = 0;
+    const long before = grid.ColWidth(5);
+    glbScreen.ResizeGridColumns(grid);
+    EXPECT_EQ(grid.ColWidth(5), before);
+
+    glbConfig.Autosize = 1;
+    glbScreen.ResizeGridColumns(grid);
+    EXPECT_EQ(grid.ColWidth(2), 1128);  // (9000 - 951 - 150) / 7
+    EXPECT_EQ(grid.ColWidth(7), 1128);
+    EXPECT_EQ(grid.ColWidth(8), 878);  // the last one 250 narrower
+
+    glbConfig.DayWeekMonth = 31;
+    grid.Width = 1200;
+    glbScreen.ResizeGridColumns(grid);
+    EXPECT_EQ(grid.ColWidth(2), 40);
+    EXPECT_EQ(grid.ColWidth(8), 40);
+}
+
+TEST_F(CommandsTest, ClosingTheWindowKeepsItsPlaceAndEndsTheProgram) {
+    StartProgram();
+    Form().Move(300, 450, 12000, 8000);
+    EXPECT_THROW(Form().UserClose(), ProgramEnded);
+    const std::string settings = ReadBytes(gStrIniFile);
+    for (const char* line : {"Height=8000\r\n", "Width=12000\r\n", "Left=300\r\n", "Top=450\r\n", "WindowState=0\r\n"})
+        EXPECT_NE(settings.find(line), std::string::npos) << line;
+    EXPECT_THROW(Form().mnuFileExit.UserClick(), ProgramEnded);
+}
+
+TEST_F(CommandsTest, TheRefreshRebuildsThePresentMode) {
+    StartProgram("CLIENT");
+    Form().lblHeading.Caption = "changed";
+    Form().mnuViewRefresh.UserClick();
+    EXPECT_EQ(Form().lblHeading.Caption(), "  Events for Saturday, 5-Jun-2004");
+    EXPECT_TRUE(Form().timerSecond.Enabled);
+    glbConfig.runLocalModeOnly = "0";
+    Form().mnuViewRefresh.UserClick();
+    EXPECT_EQ(Panel(1), "Orbidex - Local mode (server unavailable)");
+    EXPECT_EQ(Form().Toolbar1.Buttons("refresh").Image(), "disconnect");
+}
+
+TEST_F(CommandsTest, TodayMovesTheCalendarBack) {
+    StartProgram();
+    Form().MonthView1.Value = 38000;
+    click("today");
+    EXPECT_EQ(Form().MonthView1.Value(), 38143);  // 5 June 2004
+}
+
+TEST_F(CommandsTest, ToolsHelpAndBetaEntries) {
+    StartProgram();
+    Form().mnuToolsTobrin.UserClick();
+    Form().mnuHelpContents.UserClick();
+    Form().mnuHelpBugReport.UserClick();
+    EXPECT_EQ(platform_.ProcessesStarted(), (std::vector<std::string>{Stored("tobrin.exe")}));
+    EXPECT_EQ(platform_.DocumentsOpened(),
+              (std::vector<std::string>{Stored("help\\help-diary.html"),
+                                        "https://www.brindlewick.example/orbidex/bugs.html"}));
+    platform_.SetProcessHandler([](const std::string&) { return false; });
+    Form().mnuToolsTimesheet.UserClick();
+    EXPECT_EQ(platform_.MessageTexts().back(), "Could not start " + Stored("kestrop.exe"));
+
+    Form().mnuBetaTest[3].UserClick();
+    EXPECT_EQ(platform_.Transcript().back().title, "Dump Event info");
+    EXPECT_EQ(platform_.Transcript().back().text, "There are " + CStr(gIntTotalEvents) + " events");
+
+    ASSERT_EQ(gLogLevel, 3);
+    Form().mnuBetaTestLog.UserClick();
+    EXPECT_EQ(gLogLevel, 0);
+    EXPECT_FALSE(Form().mnuBetaTestLog.Checked);
+    EXPECT_EQ(platform_.Transcript().back().text, "Logging Level turned down to Errors only");
+    Form().mnuBetaTestLog.UserClick();
+    EXPECT_EQ(gLogLevel, 3);
+    EXPECT_TRUE(Form().mnuBetaTestLog.Checked);
+    EXPECT_EQ(platform_.Transcript().back().title, "Logging turned up to detailed");
+
+    platform_.SetProcessHandler(nullptr);
+    EXPECT_THROW(Form().mnuBetaRestart.UserClick(), ProgramEnded);
+    EXPECT_EQ(platform_.ProcessesStarted().back(), Stored("plindor.exe"));
+}

@@ -1,0 +1,201 @@
+// The real start-up in this process, with the Qt window of the main form: a data
+// folder with a user's events, the views a user browses, screenshots of each.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QMenuBar>
+#include <QToolBar>
+
+#include "TempFolder.h"
+#include "ViewTestSupport.h"
+#include "config/clsConfigDiary.h"
+#include "foundation/FileSystem.h"
+#include "foundation/ProgramState.h"
+#include "foundation/VbDate.h"
+#include "foundation/VbString.h"
+#include "foundation/modMain.h"
+#include "qt/MainWindow.h"
+#include "qt/ProgramIcons.h"
+#include "qt/QtFormRegistry.h"
+#include "qt/QtPlatform.h"
+#include "qt/QtText.h"
+#include "qt/views/StatusBarWidget.h"
+#include "qt/views/ToolbarWidget.h"
+#include "screen/frmClientDiaryMain.h"
+
+using namespace orbidex;
+
+namespace {
+
+// The real platform with a fixed clock, a program folder of the test's own, and no
+// dialog that waits for a person.
+class WindowTestPlatform : public QtPlatform {
+public:
+    WindowTestPlatform(QtFormRegistry& forms, std::string folder) : QtPlatform(forms), folder_(std::move(folder)) {}
+    VbDate Now() override { return DateSerial(2004, 6, 5) + TimeSerial(9, 30, 12); }
+    std::string ProgramFolder() override { return folder_; }
+    bool AnotherInstanceRunning() override { return false; }
+    int MsgBox(const std::string& prompt, int, const std::string&) override {
+        messages.push_back(prompt);
+        return vbOK;
+    }
+    int OpenDocument(const std::string& file) override {
+        documents.push_back(file);
+        return 42;
+    }
+    bool StartProcess(const std::string&) override { return true; }
+    [[noreturn]] void EndProgram(int exitCode) override { throw ProgramEnded{exitCode}; }
+
+    std::vector<std::string> messages;
+    std::vector<std::string> documents;
+
+private:
+    std::string folder_;
+};
+
+// An event line of a monthly file: the 15 fields, each closed by 0x1F.
+std::string eventLine(const std::string& id, const std::string& date, const std::string& time,
+                      const std::string& length, const std::string& details) {
+    const std::string f = "\x1F";
+    return id + f + date + f + "Office" + f + time + f + length + f + "Call" + f + f + f + f + f + f + "Normal" + f +
+           f + f + details + f + "\r\n";
+}
+
+class MainWindowTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ResetProgramState();
+        const std::string data = folder_.Stored() + "\\data\\";
+        MakeFolder(data);
+        WriteWholeFile(data + "D200405.dat", eventLine("D200405310001", "20040531", "1400", "60", "Month end report"));
+        WriteWholeFile(data + "D200406.dat",
+                       eventLine("D200406010001", "20040601", "0900", "30", "Team stand-up") +
+                           eventLine("D200406050001", "20040605", "0930", "90", "Dentist") +
+                           eventLine("D200406050002", "20040605", "1400", "30", "Ring the bank") +
+                           eventLine("D200406070001", "20040607", "1100", "60", "Budget review") +
+                           eventLine("D200406140001", "20040614", "1000", "45", "Supplier visit") +
+                           eventLine("D200406220001", "20040622", "1530", "30", "Dinner booking"));
+        RegisterProgramWindows(forms_);
+        SetPlatform(&platform_);
+        modMain("LOCAL");
+        window_ = platform_.WindowOf(MainForm());
+        ASSERT_NE(window_, nullptr);
+        window_->resize(1100, 720);
+        test::ProcessEvents();
+    }
+    void TearDown() override {
+        ResetProgramState();
+        test::ProcessEvents();
+        SetPlatform(nullptr);
+    }
+
+    MainWindow& window() { return *static_cast<MainWindow*>(window_); }
+    frmClientDiaryMain& form() { return MainForm(); }
+    std::string heading() { return FromQString(window().viewOf(form().lblHeading)->findChild<QLabel*>()->text()); }
+    std::string panel(long index) {
+        auto* bar = static_cast<StatusBarWidget*>(window().viewOf(form().status));
+        return FromQString(bar->panelLabel(index)->text());
+    }
+    QAction* buttonAction(const std::string& key) {
+        auto* bar = static_cast<ToolbarWidget*>(window().viewOf(form().Toolbar1));
+        return bar->actionOf(form().Toolbar1.Buttons.Item(key));
+    }
+    /// The entry of a menu of the menu bar, by their captions.
+    QAction* entry(const QString& menu, const QString& caption) {
+        for (QAction* top : window().menuBar()->actions()) {
+            if (top->text() != menu || top->menu() == nullptr) continue;
+            for (QAction* action : top->menu()->actions())
+                if (action->text() == caption) return action;
+        }
+        return nullptr;
+    }
+    void show(const QString& screenshot) {
+        test::ProcessEvents();
+        test::SaveScreenshot(window(), screenshot);
+    }
+
+    test::TempFolder folder_;
+    QtFormRegistry forms_;
+    WindowTestPlatform platform_{forms_, folder_.Stored()};
+    QWidget* window_ = nullptr;
+};
+
+}  // namespace
+
+TEST_F(MainWindowTest, TheUserBrowsesTheDiaryByDayWeekFortnightAndMonth) {
+    EXPECT_EQ(window().windowTitle(), QStringLiteral("Events - Brindlewick Software's Orbidex"));
+    EXPECT_EQ(heading(), "  Events for Saturday, 5-Jun-2004");
+    EXPECT_EQ(panel(2), "CALENDAR");
+    show(QStringLiteral("main-day-grid"));
+
+    buttonAction("week")->trigger();
+    EXPECT_EQ(glbConfig.DayWeekMonth, 7);
+    EXPECT_TRUE(buttonAction("week")->isChecked());
+    EXPECT_TRUE(StartsWith(heading(), "  Events for "));
+    show(QStringLiteral("main-week-grid"));
+
+    QAction* fortnight = entry(QStringLiteral("&View"), QStringLiteral("Fortnightly View"));
+    ASSERT_NE(fortnight, nullptr);
+    fortnight->trigger();
+    EXPECT_EQ(glbConfig.DayWeekMonth, 14);
+    EXPECT_TRUE(fortnight->isChecked());
+    show(QStringLiteral("main-fortnight-grid"));
+
+    buttonAction("month")->trigger();
+    EXPECT_EQ(glbConfig.DayWeekMonth, 31);
+    EXPECT_TRUE(StartsWith(heading(), "  Events for "));
+    show(QStringLiteral("main-month-grid"));
+
+    buttonAction("days")->trigger();
+    buttonAction("list")->trigger();
+    show(QStringLiteral("main-day-list"));
+    EXPECT_FALSE(window().viewOf(form().gridDays)->isVisible());
+    EXPECT_TRUE(window().viewOf(form().lvDiary)->isVisible());
+    EXPECT_EQ(panel(2), "CALENDAR");
+}
+
+TEST_F(MainWindowTest, TheOtherModesAndTheBrowserPane) {
+    glbConfig.ShowFolders = "1";  // the tree beside the shortcut bar
+    const QString view = QStringLiteral("&View");
+    ASSERT_NE(entry(view, QStringLiteral("&Notes")), nullptr);
+    entry(view, QStringLiteral("&Notes"))->trigger();
+    EXPECT_EQ(window().windowTitle(), QStringLiteral("Notes - Brindlewick Software's Orbidex"));
+    EXPECT_EQ(heading(), "  Notes");
+    EXPECT_EQ(panel(2), "NOTE");
+    show(QStringLiteral("main-notes"));
+
+    entry(view, QStringLiteral("&Calendar"))->trigger();
+    buttonAction("week")->trigger();
+    entry(view, QStringLiteral("Read Past Diary notes in Browser"))->trigger();
+    EXPECT_TRUE(window().viewOf(form().web)->isVisible());
+    EXPECT_TRUE(window().viewOf(form().imgVert)->isVisible());
+    show(QStringLiteral("main-week-browser"));
+}
+
+TEST_F(MainWindowTest, MenusToolBarAndIcons) {
+    QStringList bar;
+    for (QAction* action : window().menuBar()->actions())
+        if (action->isVisible()) bar << action->text();
+    EXPECT_EQ(bar, (QStringList{"&File", "&Appointments", "&Tasks", "&Notes", "&Search", "&View", "T&ools", "Se&rver",
+                                "&Beta", "&Help"}));
+    QAction* print = entry(QStringLiteral("&File"), QStringLiteral("Print ..."));
+    ASSERT_NE(print, nullptr);
+    EXPECT_TRUE(print->isEnabled());
+    EXPECT_EQ(print->shortcut(), QKeySequence(QStringLiteral("Ctrl+P")));
+    EXPECT_FALSE(entry(QStringLiteral("&Appointments"), QStringLiteral("&Add Appointment"))->isEnabled());
+    EXPECT_EQ(entry(QStringLiteral("&View"), QStringLiteral("&Refresh"))->shortcut(),
+              QKeySequence(QStringLiteral("F5")));
+
+    EXPECT_FALSE(buttonAction("new")->isEnabled());
+    EXPECT_EQ(buttonAction("print")->text(), QStringLiteral("Print   "));
+    EXPECT_EQ(buttonAction("print")->toolTip(), QStringLiteral("Print the current view"));
+    // The program's own icons, not the tiles of unknown names.
+    EXPECT_EQ(buttonAction("print")->icon().cacheKey(), ProgramIcon("print").cacheKey());
+    EXPECT_EQ(buttonAction("new")->icon().cacheKey(), ProgramIcon("calendar").cacheKey());
+
+    // A print of the day view is a page in the data folder, opened for the user.
+    buttonAction("print")->trigger();
+    ASSERT_EQ(platform_.documents.size(), 1U);
+    EXPECT_TRUE(FileExists(platform_.documents[0]));
+}
