@@ -51,7 +51,7 @@ TEST_F(MainWindowRunTest, TheWindowOpensOnTheCalendarAndKeepsItsPlace) {
         << eventLine(lastMonth + "28", "1000", "Month end report");
 
     ASSERT_TRUE(run.Start());
-    ASSERT_TRUE(run.WaitForFileContaining("data/OX_LOG.log", " Data Files\r\n"));
+    ASSERT_TRUE(run.WaitForStartUp());
     std::vector<std::string> messages;
     for (const std::string& line : orbidex::SplitLines(run.ReadFile("data/OX_LOG.log")))
         messages.push_back(messageOf(line));

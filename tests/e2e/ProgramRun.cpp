@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <filesystem>
 #include <fstream>
+#include <regex>
 #include <sstream>
 
 namespace fs = std::filesystem;
@@ -52,6 +53,12 @@ std::string ProgramRun::ReadFile(const std::string& relativePath) const {
 
 bool ProgramRun::Exists(const std::string& relativePath) const {
     return fs::exists(folder_ + "/" + relativePath);
+}
+
+bool ProgramRun::WaitForStartUp(int timeoutMs) {
+    static const std::regex lastLine(", Found [0-9]+ Data Files\r\n");
+    return WaitForFile(
+        "data/OX_LOG.log", [](const std::string& log) { return std::regex_search(log, lastLine); }, timeoutMs);
 }
 
 bool ProgramRun::WaitForFileContaining(const std::string& relativePath, const std::string& text, int timeoutMs) {

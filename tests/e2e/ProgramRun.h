@@ -21,6 +21,8 @@ public:
 
     bool Start();
     /// Waits, without polling, until the file below the program folder holds `text`.
+    /// Waits until the program has logged the last line of its start-up.
+    bool WaitForStartUp(int timeoutMs = 20000);
     bool WaitForFileContaining(const std::string& relativePath, const std::string& text, int timeoutMs = 20000);
     /// Waits, without polling, until `done` holds for the file's bytes ("" while it is missing).
     bool WaitForFile(const std::string& relativePath, const std::function<bool(const std::string&)>& done,

@@ -82,7 +82,7 @@ TEST_F(StartTest, OrbidexStartsLogsAndEndsWhenClosed) {
 TEST_F(StartTest, AStartMakesThisMonthsFileAndCountsTheDataFiles) {
     ProgramRun run(ORBIDEX_EXE);
     ASSERT_TRUE(run.Start());
-    ASSERT_TRUE(run.WaitForFileContaining("data/OX_LOG.log", " Data Files\r\n"));
+    ASSERT_TRUE(run.WaitForStartUp());
     const std::string month = "data/D" + QDate::currentDate().toString(QStringLiteral("yyyyMM")).toStdString() + ".dat";
     EXPECT_EQ(run.ReadFile(month), "\r\n");
     const auto messages = logMessages(run.ReadFile("data/OX_LOG.log"));
@@ -131,7 +131,7 @@ TEST_F(StartTest, ASecondStartShowsItsMessageAndLeavesTheDataAlone) {
     ProgramRun first(ORBIDEX_EXE);
     ASSERT_TRUE(first.Start());
     // The end of the start-up: every file of the first copy is written.
-    ASSERT_TRUE(first.WaitForFileContaining("data/OX_LOG.log", " Data Files\r\n"));
+    ASSERT_TRUE(first.WaitForStartUp());
     const auto before = dataFiles(first);
     ASSERT_EQ(before.count("orbidex.ini"), 1U);
     const long logLines = static_cast<long>(SplitLines(first.ReadFile("data/OX_LOG.log")).size());
