@@ -68,9 +68,13 @@ private:
             const int day = 1 + i % 30, minutes = 8 * 60 + (i * 37) % 660;
             ++eventsOn_[day + 600];
             char head[64];
-            std::snprintf(head, sizeof head, "D200406%02d%04d\x1F" "200406%02d\x1FPhone\x1F%02d%02d\x1F%d\x1F", day,
-                          1 + i / 30, day, minutes / 60, minutes % 60, 15 * (1 + i % 6));
-            bytes += std::string(head) + "Call\x1F" "fred\x1F\x1F\x1F\x1F\x1FNormal\x1F\x1FOffice\x1F" +
+            std::snprintf(head, sizeof head,
+                          "D200406%02d%04d\x1F"
+                          "200406%02d\x1FPhone\x1F%02d%02d\x1F%d\x1F",
+                          day, 1 + i / 30, day, minutes / 60, minutes % 60, 15 * (1 + i % 6));
+            bytes += std::string(head) +
+                     "Call\x1F"
+                     "fred\x1F\x1F\x1F\x1F\x1FNormal\x1F\x1FOffice\x1F" +
                      "Meeting about item " + std::to_string(i) + "\x1F\r\n";
         }
         orbidex::WriteWholeFile(orbidex::gStrDataPath + "D200406.dat", bytes);

@@ -24,7 +24,9 @@ inline clsTimeSlots& CalendarTimeSlots() {
 }
 
 /// A colour of the settings as the controls take it.
-inline OleColor SettingColour(int32_t colour) { return static_cast<OleColor>(colour); }
+inline OleColor SettingColour(int32_t colour) {
+    return static_cast<OleColor>(colour);
+}
 
 /// The Monday on or before `date`, found a day at a time by the day's name.
 inline VbDate MondayOnOrBefore(VbDate date) {

@@ -31,7 +31,9 @@ int listDays(int days) {
 }
 
 /// The loads and the statistics read the view's length from glbNumDaysToDisplay.
-void followViewLength() { glbNumDaysToDisplay = glbConfig.DayWeekMonth; }
+void followViewLength() {
+    glbNumDaysToDisplay = glbConfig.DayWeekMonth;
+}
 
 }  // namespace
 
@@ -97,14 +99,13 @@ void cDiaryRecords::CalendarDateClicked(frmClientDiaryMain& form, VbDate date) {
     const int days = glbConfig.DayWeekMonth;
     if (days > 2 && days < 16) {
         if (Month(date - days) != Month(date)) {
-            glbLog.log("User clicked FIRST calendar date in  week mode" + FormatDate(date, "ddddd") +
-                           " - now loading data",
-                       3);
+            glbLog.log(
+                "User clicked FIRST calendar date in  week mode" + FormatDate(date, "ddddd") + " - now loading data",
+                3);
             LoadDiaryData(date);
         } else if (Month(date + days) != Month(date)) {
-            glbLog.log("User clicked LAST calendar date in  week mode" + FormatDate(date, "ddddd") +
-                           " - now loading data",
-                       3);
+            glbLog.log(
+                "User clicked LAST calendar date in  week mode" + FormatDate(date, "ddddd") + " - now loading data", 3);
             LoadDiaryData(date);
         }
     }

@@ -115,9 +115,10 @@ void layOutTimeRows(FlexGrid& grid, const clsTimeSlots& slots, double hourFontSi
 bool userWantsCrowdedDay(long count, VbDate day) {
     const std::string dayText = FormatDate(day, "DDD, d-mmm-yy");
     glbLog.log("WARNING - DisplayScheduleInGrid has more than 50 events in a single day - " + dayText, 0);
-    const int answer = platform().MsgBox("WARNING - DisplayScheduleInGrid has " + CStr(count) +
-                                             " events in a single day - " + dayText + "\r\nDo you want to display them ?",
-                                         vbOKCancel, "Check date files");
+    const int answer =
+        platform().MsgBox("WARNING - DisplayScheduleInGrid has " + CStr(count) + " events in a single day - " +
+                              dayText + "\r\nDo you want to display them ?",
+                          vbOKCancel, "Check date files");
     return answer != vbCancel;
 }
 
@@ -148,7 +149,8 @@ void placeAlone(FlexGrid& grid, long row, const cDiaryRecord& event, const clsTi
     if (!event.DateRemind.empty()) grid.CellFontBold = true;
     grid.CellForeColor = SettingColour(glbConfig.normal_ForeColor);
     grid.CellBackColor = SettingColour(glbConfig.normal_BackColor);
-    if (event.DateEvent == FormatDate(Today(), "yyyymmdd")) grid.CellForeColor = SettingColour(glbConfig.today_ForeColor);
+    if (event.DateEvent == FormatDate(Today(), "yyyymmdd"))
+        grid.CellForeColor = SettingColour(glbConfig.today_ForeColor);
     if (event.isDiaryRecordMeeting()) grid.CellForeColor = vbRed;
     shadeSpan(grid, row, event, slots);
 }
@@ -181,7 +183,9 @@ void fitRowHeight(FlexGrid& grid, long row, long col, int days) {
         grid.SetRowHeight(row, glbConfig.RowHeightMax);
 }
 
-bool isPrivate(const cDiaryRecord& event) { return event.status == "Private"; }
+bool isPrivate(const cDiaryRecord& event) {
+    return event.status == "Private";
+}
 
 }  // namespace
 
@@ -255,7 +259,8 @@ bool cDiaryRecords::setAsideFileEvent(const cDiaryRecord& event, bool showFileEv
     ++usageEvents_;
     AddMinutes(usageTime_, event.length);
     if (fileList != nullptr) {
-        const std::string when = glbConfig.DayWeekMonth != 1 ? event.DateEvent + " " + event.TimeEvent : event.TimeEvent;
+        const std::string when =
+            glbConfig.DayWeekMonth != 1 ? event.DateEvent + " " + event.TimeEvent : event.TimeEvent;
         fileList->AddItem(when + " " + text);
     }
     return true;
@@ -314,9 +319,8 @@ bool cDiaryRecords::GetEventFromGrid(FlexGrid& grid, MonthView& calendar, Status
             panel.Text = "Multiple Events selected";
         } else {
             glbLog.log("User selected ID in grid : ID# " + gCurrentEvent.ID, 3);
-            const std::string spent = gCurrentEvent.length.empty()
-                                          ? std::string(" worked on '")
-                                          : " spent " + gCurrentEvent.length + " minutes on '";
+            const std::string spent = gCurrentEvent.length.empty() ? std::string(" worked on '")
+                                                                   : " spent " + gCurrentEvent.length + " minutes on '";
             panel.Text = "At " + gCurrentEvent.TimeEvent + " on " + gCurrentEvent.DateEvent + spent + "'" +
                          gCurrentEvent.details + "'";
         }

@@ -22,15 +22,27 @@ struct ListColumn {
 
 /// The fields that can have a column, in the order of the columns.
 const ListColumn kListColumns[] = {
-    {&cDiaryRecord::DateEvent, 1240},     {&cDiaryRecord::TimeEvent, 640},  {&cDiaryRecord::Reference, 1040},
-    {&cDiaryRecord::length, 540},         {&cDiaryRecord::Action, 0},       {&cDiaryRecord::ContactID, 0},
-    {&cDiaryRecord::URL, 0},              {&cDiaryRecord::JobToDoID, 0},    {&cDiaryRecord::DateRemind, 0},
-    {&cDiaryRecord::TimeRemind, 0},       {&cDiaryRecord::Priority, 0},     {&cDiaryRecord::status, 0},
-    {&cDiaryRecord::ActionToPerform, 0},  {&cDiaryRecord::ID, 0},           {&cDiaryRecord::details, 3540},
+    {&cDiaryRecord::DateEvent, 1240},
+    {&cDiaryRecord::TimeEvent, 640},
+    {&cDiaryRecord::Reference, 1040},
+    {&cDiaryRecord::length, 540},
+    {&cDiaryRecord::Action, 0},
+    {&cDiaryRecord::ContactID, 0},
+    {&cDiaryRecord::URL, 0},
+    {&cDiaryRecord::JobToDoID, 0},
+    {&cDiaryRecord::DateRemind, 0},
+    {&cDiaryRecord::TimeRemind, 0},
+    {&cDiaryRecord::Priority, 0},
+    {&cDiaryRecord::status, 0},
+    {&cDiaryRecord::ActionToPerform, 0},
+    {&cDiaryRecord::ID, 0},
+    {&cDiaryRecord::details, 3540},
 };
 
 /// The usage recorder's and the file launcher's events.
-bool isUsage(const cDiaryRecord& event) { return event.IsDiaryEventPCUsage() || event.IsDiaryEventAfileAccess(); }
+bool isUsage(const cDiaryRecord& event) {
+    return event.IsDiaryEventPCUsage() || event.IsDiaryEventAfileAccess();
+}
 
 /// The icon of a row by the kind of its event.
 std::string iconOf(const cDiaryRecord& event) {

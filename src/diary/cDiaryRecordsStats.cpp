@@ -40,8 +40,8 @@ void cDiaryRecords::DisplayStats(frmClientDiaryMain& form, StatusBar& statusBar,
     }
 
     form.Label1.Caption = " PC Usage - " + FormatMinutes(usageTime_) + " on " + CStr(usageEvents_) + " logged events";
-    form.Label2.Caption = " Tasks - " + CStr(form.lstTasks.ListCount()) + "  [approx: " +
-                          FormatMinutes(glbConfig.taskMinutes) + " ]";
+    form.Label2.Caption =
+        " Tasks - " + CStr(form.lstTasks.ListCount()) + "  [approx: " + FormatMinutes(glbConfig.taskMinutes) + " ]";
 }
 
 std::string cDiaryRecords::ShowStats(const std::string& what, const std::string& searchText, long days,

@@ -5,34 +5,37 @@
 
 #include "config/clsConfigDiary.h"
 #include "diary/cDiaryRecords.h"
-#include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
 #include "screen/frmClientDiaryMain.h"
 
 namespace orbidex::test {
 
-namespace {
-
-std::string hex(OleColor colour) {
-    char text[16];
-    std::snprintf(text, sizeof text, "&H%X", colour);
-    return text;
-}
-
-}  // namespace
-
 void CalendarFixture::SetUp() {
     ProgramFixture::SetUp();
     glbConfig.fname = gStrIniFile;
     glbConfig.ReadAllSettings();  // the first run writes the defaults
-    Settings({{"colour", "normal_ForeColor", hex(kNormalFore)},     {"colour", "normal_BackColor", hex(kNormalBack)},
-              {"colour", "multi_ForeColor", hex(kMultiFore)},       {"colour", "multi_BackColor", hex(kMultiBack)},
-              {"colour", "heading_ForeColor", hex(kHeadingFore)},   {"colour", "heading_BackColor", hex(kHeadingBack)},
-              {"colour", "weekend_ForeColor", hex(kWeekendFore)},   {"colour", "weekend_BackColor", hex(kWeekendBack)},
-              {"colour", "spanning_BackColor", hex(kSpanningBack)}, {"colour", "today_ForeColor", hex(kTodayFore)},
-              {"colour", "PCFile_ForeColor", hex(kPCFileFore)},     {"colour", "PCFile_BackColor", hex(kPCFileBack)}});
+    const std::vector<std::pair<std::string, OleColor>> colours = {
+        {"normal_ForeColor", kNormalFore},   {"normal_BackColor", kNormalBack},     {"multi_ForeColor", kMultiFore},
+        {"multi_BackColor", kMultiBack},     {"heading_ForeColor", kHeadingFore},   {"heading_BackColor", kHeadingBack},
+        {"weekend_ForeColor", kWeekendFore}, {"weekend_BackColor", kWeekendBack},   {"today_ForeColor", kTodayFore},
+        {"PCFile_ForeColor", kPCFileFore},   {"spanning_BackColor", kSpanningBack}, {"PCFile_BackColor", kPCFileBack}};
+    for (const auto& [key, colour] : colours) glbConfig.SetVal("colour", key, std::to_string(colour));
+    glbConfig.ReadAllSettings();
     // The status bar as the main window has it: messages, then the mode.
     if (MainForm().status.Panels.Count() < 2) MainForm().status.Panels.Add();
+}
+
+Event CalendarFixture::E(const std::string& date, const std::string& time, const std::string& details,
+                         const std::string& length) {
+    char id[16];
+    std::snprintf(id, sizeof id, "D%s%04d", date.c_str(), ++nextId_ % 10000);
+    Event event;
+    event.id = id;
+    event.date = date;
+    event.time = time;
+    event.details = details;
+    event.length = length;
+    return event;
 }
 
 void CalendarFixture::Settings(const std::vector<std::tuple<std::string, std::string, std::string>>& changes) {
@@ -40,26 +43,38 @@ void CalendarFixture::Settings(const std::vector<std::tuple<std::string, std::st
     glbConfig.ReadAllSettings();
 }
 
-void CalendarFixture::WriteMonth(const std::string& name, const std::vector<std::string>& lines) const {
+void CalendarFixture::WriteMonth(VbDate month, const std::vector<Event>& events) const {
     std::string bytes;
-    for (const std::string& line : lines) bytes += line + "\r\n";
-    WriteBytes(DataPath() + name, bytes);
+    for (const Event& event : events) bytes += event.Line() + "\r\n";
+    WriteBytes(DataPath() + "D" + FormatDate(month, "yyyymm") + ".dat", bytes);
 }
 
-void CalendarFixture::Load(VbDate date) const { glbEvents.LoadDiaryData(date); }
-
-void CalendarFixture::Draw(VbDate date) const {
+void CalendarFixture::Draw(VbDate date) {
     MainForm().MonthView1.Value = date;
     glbEvents.DiaryTopLevelDisplay(date);
 }
 
-FlexGrid& CalendarFixture::Grid() { return MainForm().gridDays; }
+void CalendarFixture::Show(VbDate date, const std::vector<Event>& events) const {
+    WriteMonth(date, events);
+    glbEvents.LoadDiaryData(date);
+    Draw(date);
+}
 
-std::string CalendarFixture::Text(long row, long col) { return Grid().TextMatrix(row, col); }
+FlexGrid& CalendarFixture::Grid() {
+    return MainForm().gridDays;
+}
 
-OleColor CalendarFixture::Back(long row, long col) { return Grid().EffectiveStyle(row, col).backColor; }
+std::string CalendarFixture::Text(long row, long col) {
+    return Grid().TextMatrix(row, col);
+}
 
-OleColor CalendarFixture::Fore(long row, long col) { return Grid().EffectiveStyle(row, col).foreColor; }
+OleColor CalendarFixture::Back(long row, long col) {
+    return Grid().EffectiveStyle(row, col).backColor;
+}
+
+OleColor CalendarFixture::Fore(long row, long col) {
+    return Grid().EffectiveStyle(row, col).foreColor;
+}
 
 std::string CalendarFixture::Click(long row, long col, bool* blank) {
     frmClientDiaryMain& form = MainForm();
@@ -76,10 +91,11 @@ bool CalendarFixture::Logged(const std::string& message) const {
 }
 
 std::string Event::Line() const {
-    const std::vector<std::string> fields = {id,         date, reference, time,   length, action, "fred", url,
-                                             "",         dateRemind, timeRemind, "Normal", status, "Office", details};
     std::string line;
-    for (const std::string& field : fields) line += field + "\x1F";
+    for (const std::string& field :
+         {id, date, reference, time, length, action, std::string("fred"), url, std::string(), dateRemind, timeRemind,
+          std::string("Normal"), status, std::string("Office"), details})
+        line += field + "\x1F";
     return line;
 }
 

@@ -18,20 +18,12 @@ class CalendarScreenshotTest : public CalendarFixture {
 protected:
     void SetUp() override {
         CalendarFixture::SetUp();
-        Event span = MakeEvent("D200405310001", "20040531", "0900", "Budget review with the whole team", "90");
-        Event meeting = MakeEvent("D200406020001", "20040602", "1300", "Board meeting");
-        meeting.action = "Meeting";
-        Event secret = MakeEvent("D200406030001", "20040603", "1400", "Doctor");
-        secret.status = "Private";
-        Event reminder = MakeEvent("D200406040001", "20040604", "1500", "Send the invoices");
-        reminder.dateRemind = "20040604";
-        reminder.timeRemind = "1430";
-        WriteMonth("D200405.dat", {span.Line()});
-        WriteMonth("D200406.dat", {MakeEvent("D200406010001", "20040601", "1030", "Call Ann").Line(),
-                                   MakeEvent("D200406010002", "20040601", "1045", "Call Bob").Line(), meeting.Line(),
-                                   secret.Line(), reminder.Line(),
-                                   MakeEvent("D200406050001", "20040605", "1100", "Shopping", "60").Line(),
-                                   MakeEvent("D200406060001", "20040606", "1000", "Walk").Line()});
+        const Event meeting = With(E("20040602", "1300", "Board meeting"), &Event::action, "Meeting");
+        const Event secret = With(E("20040603", "1400", "Doctor"), &Event::status, "Private");
+        const Event reminder = With(E("20040604", "1500", "Send the invoices"), &Event::dateRemind, "20040604");
+        WriteMonth(DateSerial(2004, 5, 1), {E("20040531", "0900", "Budget review with the whole team", "90")});
+        WriteMonth(June(1), {E("20040601", "1030", "Call Ann"), E("20040601", "1045", "Call Bob"), meeting, secret,
+                             reminder, E("20040605", "1100", "Shopping", "60"), E("20040606", "1000", "Walk")});
         Settings({{"calendar", "DayWeekMonth", "7"}});
         glbEvents.CalendarDateClicked(MainForm(), June(5));
     }
