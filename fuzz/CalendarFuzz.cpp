@@ -1,6 +1,7 @@
-// Random bytes as a month of events, drawn in every view as grid and as list, with
-// a click on each cell: the drawing never fails and the grid always has one row per
-// time slot and one column per day.  The first bytes choose the settings.
+// Random bytes as a month of events, drawn as grid or list in a view of a day, a
+// week, a fortnight or a month, with clicks on some cells: the drawing never fails
+// and the grid always has one row per time slot and one column per day.  The first
+// bytes choose the settings, the view and the cells.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -42,19 +43,19 @@ void chooseSettings(const uint8_t* data) {
         *caption = "caption";
 }
 
-void drawAndClickEverywhere(VbDate date) {
+constexpr size_t kClicks = 4;
+
+void drawAndClick(VbDate date, const uint8_t* cells) {
     frmClientDiaryMain& form = MainForm();
     glbEvents.CalendarDateClicked(form, date);
     if (glbConfig.GridOrList != "GRID") return;
     FlexGrid& grid = form.gridDays;
-    const clsTimeSlots& slots = *glbConfig.timeSlots;
-    if (grid.Rows != slots.totSlots + 1 || grid.Cols != glbConfig.DayWeekMonth + 2) std::abort();
-    for (long row = 1; row < grid.Rows; ++row)
-        for (long col = 2; col < grid.Cols; col += 3) {
-            grid.Row = row;
-            grid.Col = col;
-            glbEvents.GetEventFromGrid(grid, form.MonthView1, form.status);
-        }
+    if (grid.Rows != glbConfig.timeSlots->totSlots + 1 || grid.Cols != glbConfig.DayWeekMonth + 2) std::abort();
+    for (size_t i = 0; i < kClicks; ++i) {
+        grid.Row = 1 + cells[2 * i] % grid.Rows;
+        grid.Col = 2 + cells[2 * i + 1] % (grid.Cols - 1);
+        glbEvents.GetEventFromGrid(grid, form.MonthView1, form.status);
+    }
 }
 
 }  // namespace
@@ -62,29 +63,37 @@ void drawAndClickEverywhere(VbDate date) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     static test::ScriptedPlatform platform;
     static test::TempFolder folder;
-    if (size < kSettingBytes) return 0;
+    constexpr size_t kChoices = kSettingBytes + 1 + 2 * kClicks;
+    if (size < kChoices) return 0;
     platform.SetProblemHandler([](const std::string&) {});  // unanswered questions count as Cancel
     platform.ClearTranscript();
     SetPlatform(&platform);
-    ResetProgramState();
-    gLogLevel = -2;
-    gStrDataPath = folder.Stored() + "\\";
-    gStrIniFile = gStrDataPath + "orbidex.ini";
+    static const bool reset = [] {
+        ResetProgramState();
+        gLogLevel = -2;
+        gStrDataPath = folder.Stored() + "\\";
+        return true;
+    }();
+    (void)reset;
+    // The main window stays between inputs; the events and the loaded month do not.
+    glbEvents = cDiaryRecords();
+    gLngWhichMonthIsLoaded = 0;
+    gintcur = -1;
+    DeleteFile(gStrDataPath + "D200405.dat");
     WriteWholeFile(gStrDataPath + "D200406.dat",
-                   std::string(reinterpret_cast<const char*>(data + kSettingBytes), size - kSettingBytes));
+                   std::string(reinterpret_cast<const char*>(data + kChoices), size - kChoices));
     chooseSettings(data);
+    const uint8_t view = data[kSettingBytes];
+    const int16_t lengths[] = {1, 7, 14, 31};
+    glbConfig.DayWeekMonth = lengths[view % 4];
+    glbConfig.GridOrList = (view & 4) != 0 ? "LIST" : "GRID";
 
     const VbDate june = DateSerial(2004, 6, 5);
-    for (const char* view : {"GRID", "LIST"}) {
-        glbConfig.GridOrList = view;
-        for (int16_t days : {1, 7, 14, 31}) {
-            glbConfig.DayWeekMonth = days;
-            drawAndClickEverywhere(june);
-        }
+    drawAndClick(june, data + kSettingBytes + 1);
+    if ((view & 8) != 0) {
+        ListBox files;
+        glbEvents.DisplayScheduleInGrid(*glbConfig.timeSlots, MainForm().gridDays, june, 7, (view & 16) != 0, &files);
     }
-    ListBox files;
-    glbEvents.DisplayScheduleInGrid(*glbConfig.timeSlots, MainForm().gridDays, june, 7, false, &files);
-    glbEvents.DisplayScheduleInGrid(*glbConfig.timeSlots, MainForm().gridDays, june, 7, true, &files);
     long hour = data[0];
     glbConfig.timeSlots->FindTimeSlot(hour, data[1], MainForm().lvDiary, false);
     return 0;
