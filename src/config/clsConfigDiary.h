@@ -71,6 +71,8 @@ public:
     int16_t RowHeightMin = 0;  ///< twips
     int16_t RowHeightMax = 0;
     int16_t DisplayFileEvents = 0;
+    /// Minutes the tasks are reckoned to take, shown beside the task count.
+    int32_t taskMinutes = 0;
 
     /// The settings file.
     std::string fname;

@@ -83,9 +83,6 @@ public:
     void SetUpperBound(long upperBound);
     /// Puts a new blank record at `index`, which must lie within the array.
     cDiaryRecord& CreateRecordAt(long index);
-    /// Minutes of the events in the view.
-    int32_t totTime() const { return totTime_; }
-    void totTime(int32_t minutes) { totTime_ = minutes; }
 
     // Identifiers
 
@@ -145,8 +142,32 @@ public:
     /// Gives the item's text and its first `columns` sub-items one fore colour.
     void SetListViewColumnsColour(ListItem& item, long columns, OleColor colour);
 
-    // Statistics of the view and of a search
+    /// Writes the month's page of the events in `records` (from index 0) to `htmlFile`;
+    /// unless `always`, a page newer than the monthly file is left as it is.
+    void ConvertEventsToHTML(const std::vector<cDiaryRecord>& records, long count, const std::string& htmlFile,
+                             VbDate date, const std::string& includeFile, bool always);
 
+    // Statistics of the view and of a search.  The drawings count the events they
+    // show, apart from the usage and file events, which they count separately; a
+    // search counts what it found.
+
+    /// Events in the view and their minutes.
+    int32_t eventsShown() const { return eventsShown_; }
+    int32_t totTime() const { return totTime_; }
+    void totTime(int32_t minutes) { totTime_ = minutes; }
+    /// PC usage and file events in the view and their minutes.
+    int32_t usageEvents() const { return usageEvents_; }
+    int32_t usageTime() const { return usageTime_; }
+    /// Events found by a search.
+    int32_t totEventsFound() const { return totEventsFound_; }
+    void totEventsFound(int32_t count) { totEventsFound_ = count; }
+    /// The month number of the date the calendar was last moved to.
+    int shownMonth() const { return shownMonth_; }
+    /// The grid cell whose event GetEventFromGrid found last (-1 before any).
+    long currentGridRow() const { return currentGridRow_; }
+    long currentGridCol() const { return currentGridCol_; }
+
+    /// Sets totTime and the found count to 0.
     void ClearTotals();
     /// The view's totals in the status bar and the labels of `form`.
     void DisplayStats(frmClientDiaryMain& form, StatusBar& statusBar, VbDate date);
@@ -166,12 +187,28 @@ private:
     bool sizeGuardAllows(long upperBound);
     void checkMonthOfFile(frmClientDiaryMain* mainForm);
 
+    // The calendar side
+    void clearViewCounters();
+    /// Counts a file event that the grid does not place (adding it to `fileList`),
+    /// or passes it over; false for an event the grid places.
+    bool setAsideFileEvent(const cDiaryRecord& event, bool showFileEvents, ListBox* fileList);
+    void placeEventInGrid(const cDiaryRecord& event, clsTimeSlots& slots, FlexGrid& grid, long col, int days);
+    void reloadMonthIfNeeded(VbDate date);
+    void showPageInBrowser(frmClientDiaryMain& form, VbDate date);
+
     std::vector<std::unique_ptr<cDiaryRecord>> slots_;
     cDiaryRecord blank_;  ///< what events() gives for a slot that holds nothing
     std::string fileStamp_;
     frmClientDiaryMain* mainForm_ = nullptr;
     std::string settingsFile_;
+    int32_t eventsShown_ = 0;
     int32_t totTime_ = 0;
+    int32_t usageEvents_ = 0;
+    int32_t usageTime_ = 0;
+    int32_t totEventsFound_ = 0;
+    int shownMonth_ = 0;
+    long currentGridRow_ = -1;  ///< the cell whose event GetEventFromGrid found last
+    long currentGridCol_ = -1;
 };
 
 extern cDiaryRecords glbEvents;

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QSocketNotifier>
+#include <QTimer>
 #include <csignal>
 
 namespace orbidex {
@@ -23,10 +24,16 @@ void onSignal(int) {
 void CloseWindowsOnTerminationSignals() {
     if (::socketpair(AF_UNIX, SOCK_STREAM, 0, gSignalPipe) != 0) return;
     auto* notifier = new QSocketNotifier(gSignalPipe[1], QSocketNotifier::Read, qApp);
-    QObject::connect(notifier, &QSocketNotifier::activated, qApp, [] {
+    // A request may come before the main window is shown, or while a message box
+    // holds the program: windows are closed again and again until the program ends.
+    auto* closer = new QTimer(qApp);
+    closer->setInterval(50);
+    QObject::connect(closer, &QTimer::timeout, qApp, [] { QApplication::closeAllWindows(); });
+    QObject::connect(notifier, &QSocketNotifier::activated, qApp, [closer] {
         char byte = 0;
         [[maybe_unused]] const auto read = ::read(gSignalPipe[1], &byte, 1);
         QApplication::closeAllWindows();
+        closer->start();
     });
     struct sigaction action {};
     action.sa_handler = onSignal;

@@ -133,8 +133,8 @@ void clsDiaryScreen::drawStatusBar() {
     PanelCollection& panels = form_->status.Panels;
     while (panels.Count() < 2) panels.Add();
     panels(1).AutoSize = sbrSpring;
-    panels(2).AutoSize = sbrNoAutoSize;
-    panels(2).Width = 2400;
+    panels(2).AutoSize = sbrContents;  // the mode, or the view's totals
+    panels(2).MinWidth = 2400;
 }
 
 void clsDiaryScreen::CreateToolbarButtons(bool showText) {

@@ -1,6 +1,8 @@
 #include "screen/clsTimeSlots.h"
 
+#include "controls/ListView.h"
 #include "foundation/VbString.h"
+#include "platform/Platform.h"
 
 namespace orbidex {
 
@@ -67,6 +69,31 @@ void clsTimeSlots::InitTimeArray() {
         hhmmLet(i, padThreeToFour(hhmmGet(i)));
     }
     totSlots = static_cast<int16_t>(i);
+}
+
+int16_t clsTimeSlots::FindTimeSlot(long& hour, double minute) const {
+    if (hour < startHr) hour = startHr;
+    if (hour > stopHr) return totSlots;
+    const long ndx = (hour - startHr) * numSlotsPerHour + 1 + Int(minute / 60 * numSlotsPerHour);
+    return static_cast<int16_t>(ndx);
+}
+
+int16_t clsTimeSlots::FindTimeSlot(long& hour, double minute, ListView& list, bool rawIndex) const {
+    long ndx = FindTimeSlot(hour, minute);
+    if (rawIndex) return static_cast<int16_t>(ndx);
+    if (ndx < 1) {
+        ndx = 1;
+        platform().MsgBox("ndx under 1", vbOKOnly, "");
+    }
+    if (ndx > list.ListItems.Count()) {
+        ndx = list.ListItems.Count();
+        platform().MsgBox("ndx over limit", vbOKOnly, "");
+    }
+    const auto freeRow = [&list](long row) { return Trim(list.ListItems(row).SubItems(2)).empty(); };
+    if (freeRow(ndx)) return static_cast<int16_t>(ndx);
+    for (long row = ndx + 1; row <= list.ListItems.Count(); ++row)
+        if (freeRow(row)) return static_cast<int16_t>(row);
+    return static_cast<int16_t>(ndx);
 }
 
 }  // namespace orbidex

@@ -8,6 +8,8 @@
 
 namespace orbidex {
 
+class ListView;
+
 class clsTimeSlots {
 public:
     /// The highest slot number the table holds; slot numbers start at 1.
@@ -16,6 +18,15 @@ public:
     /// Builds the labels and times of every slot from startHr, stopHr and
     /// numSlotsPerHour, and sets totSlots.
     void InitTimeArray();
+
+    /// The slot (row) of a time, as the grid asks for it.  An hour before the first
+    /// is moved to the first (in `hour` too), yet its minutes still count; an hour
+    /// after the last gives the last slot, so late events pile up there.
+    int16_t FindTimeSlot(long& hour, double minute) const;
+    /// The same slot, or with `rawIndex` false the first row of the event list from
+    /// that slot on whose second sub-item is empty (the slot itself when none is).
+    /// A slot outside the list is brought into it with a message.
+    int16_t FindTimeSlot(long& hour, double minute, ListView& list, bool rawIndex) const;
 
     /// The slot's time as "hhmm" (24 hours) and its row label ("9 am", "9:30"); ""
     /// outside the table.

@@ -73,10 +73,11 @@ TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
 
     // A task list asks to enable its entries; they stay off, and a click does nothing.
     glbScreen.SwitchMode("TASK");
+    const std::string panel = Panel(1);
     EXPECT_FALSE(Form().mnuTaskMenu[0].Enabled);
     Form().mnuTaskMenu[0].UserClick();
     Form().mnuAppAdd.UserClick();
-    EXPECT_EQ(Panel(1), "");
+    EXPECT_EQ(Panel(1), panel);
 
     Toolbar& bar = Form().Toolbar1;
     EXPECT_FALSE(bar.Buttons("new").Enabled);
@@ -85,7 +86,7 @@ TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
     EXPECT_TRUE(bar.Buttons("print").Enabled);
     bar.UserClickButton(bar.Buttons("new"));
     bar.UserClickButtonMenu(*bar.Buttons("new").ButtonMenus(2));
-    EXPECT_EQ(Panel(1), "");
+    EXPECT_EQ(Panel(1), panel);
 }
 
 TEST_F(CommandsTest, TreeKeysLeadIntoTheirModes) {
@@ -141,8 +142,8 @@ TEST_F(CommandsTest, AClickedEventRowBecomesTheCurrentEvent) {
     StartProgram();
     click("list");
     ListView& list = Form().lvDiary;
-    list.ListItems.Add("", "D200406050002");
-    list.UserClickItem(list.ListItems(1));
+    ASSERT_NE(list.ListItems.Item("D200406050002"), nullptr);
+    list.UserClickItem(*list.ListItems.Item("D200406050002"));
     EXPECT_EQ(gintcur, glbEvents.SelectDiaryRecordFromID("D200406050002"));
     EXPECT_GE(gintcur, 0);
     EXPECT_FALSE(Form().mnuAppEdit.Enabled);  // no editing in this version yet

@@ -126,13 +126,24 @@ protected:
 TEST_F(MainWindowTest, TheUserBrowsesTheDiaryByDayWeekFortnightAndMonth) {
     EXPECT_EQ(window().windowTitle(), QStringLiteral("Events - Brindlewick Software's Orbidex"));
     EXPECT_EQ(heading(), "  Events for Saturday, 5-Jun-2004");
-    EXPECT_EQ(panel(2), "CALENDAR");
+    EXPECT_EQ(panel(1), "Viewing 5-Jun-04 ");
+    EXPECT_EQ(panel(2), "2 hr 0 min   spent on 2 events  ");
+    // 09:30 is the second slot; the 90 minutes shade the two slots below it.
+    FlexGrid& grid = form().gridDays;
+    EXPECT_EQ(grid.TextMatrix(2, 2), "Dentist");
+    grid.Row = 3;
+    grid.Col = 2;
+    EXPECT_EQ(grid.CellBackColor(), static_cast<OleColor>(glbConfig.spanning_BackColor));
     show(QStringLiteral("main-day-grid"));
 
     buttonAction("week")->trigger();
     EXPECT_EQ(glbConfig.DayWeekMonth, 7);
     EXPECT_TRUE(buttonAction("week")->isChecked());
-    EXPECT_TRUE(StartsWith(heading(), "  Events for "));
+    EXPECT_EQ(heading(), "  Events for Week beginning 31-May-2004");
+    EXPECT_EQ(panel(1), "Viewing Week beginning 31-May-04");
+    EXPECT_EQ(panel(2), "3 hr 30 min   spent on 4 events  ");
+    EXPECT_EQ(grid.TextMatrix(0, 2), "Mon-31");
+    EXPECT_EQ(grid.TextMatrix(11, 2), "Month end report");  // 14:00, from May's file
     show(QStringLiteral("main-week-grid"));
 
     QAction* fortnight = entry(QStringLiteral("&View"), QStringLiteral("Fortnightly View"));
@@ -140,11 +151,18 @@ TEST_F(MainWindowTest, TheUserBrowsesTheDiaryByDayWeekFortnightAndMonth) {
     fortnight->trigger();
     EXPECT_EQ(glbConfig.DayWeekMonth, 14);
     EXPECT_TRUE(fortnight->isChecked());
+    EXPECT_EQ(heading(), "  Events for Month of Jun-2004");
+    EXPECT_EQ(panel(2), "4 hr 15 min   spent on 5 events  ");
     show(QStringLiteral("main-fortnight-grid"));
 
     buttonAction("month")->trigger();
     EXPECT_EQ(glbConfig.DayWeekMonth, 31);
-    EXPECT_TRUE(StartsWith(heading(), "  Events for "));
+    EXPECT_EQ(heading(), "  Events for Month of Jun-2004");
+    EXPECT_EQ(panel(1), "Viewing June-2004");
+    EXPECT_EQ(panel(2), "4 hr 45 min   spent on 6 events  ");
+    // The heading of a month's first column is the last day of the month before.
+    EXPECT_EQ(grid.TextMatrix(0, 2), "31");
+    EXPECT_EQ(grid.TextMatrix(1, 2), "Team stand-up");
     show(QStringLiteral("main-month-grid"));
 
     buttonAction("days")->trigger();
@@ -152,7 +170,11 @@ TEST_F(MainWindowTest, TheUserBrowsesTheDiaryByDayWeekFortnightAndMonth) {
     show(QStringLiteral("main-day-list"));
     EXPECT_FALSE(window().viewOf(form().gridDays)->isVisible());
     EXPECT_TRUE(window().viewOf(form().lvDiary)->isVisible());
-    EXPECT_EQ(panel(2), "CALENDAR");
+    ListView& list = form().lvDiary;
+    ASSERT_EQ(list.ListItems.Count(), 2);
+    EXPECT_EQ(list.ListItems(1).Key(), "D200406050001");
+    EXPECT_EQ(list.ListItems(2).SubItems(list.ColumnHeaders.Count() - 1), "Ring the bank");
+    EXPECT_EQ(panel(2), "2 hr 0 min   spent on 2 events  ");
 }
 
 TEST_F(MainWindowTest, TheOtherModesAndTheBrowserPane) {

@@ -62,6 +62,8 @@ TEST_F(PrintTest, TheListPrintsItsHeadingsAndRows) {
     StartProgram();
     glbCmd.ViewList();
     ListView& list = Form().lvDiary;
+    list.ListItems.Clear();
+    list.ColumnHeaders.Clear();
     for (const char* caption : {" ", "Time", "Event Details"}) list.ColumnHeaders.Add(caption);
     ListItem& item = list.ListItems.Add("", "D200406050001");
     item.SetSubItems(1, "0900");

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QFontMetrics>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
@@ -262,12 +263,19 @@ void FlexGridWidget::paintCell(QPainter& painter, const QRect& rect, long row, l
             case flexAlignRightBottom: flags = Qt::AlignRight | Qt::AlignBottom; break;
             default: flags = (IsNumeric(style.text) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter; break;
         }
-        if (grid_.WordWrap) flags |= Qt::TextWordWrap;
+        const QFont font = ToQFont(style.fontName, style.fontSize, style.fontBold, style.fontItalic);
+        const QRect textRect = rect.adjusted(2, 1, -3, -1);
+        if (grid_.WordWrap) {
+            flags |= Qt::TextWordWrap;
+            // Wrapped text taller than its cell shows its first lines, not its middle.
+            const QRect needed = QFontMetrics(font).boundingRect(textRect, flags, ToQString(style.text));
+            if (needed.height() > textRect.height()) flags = (flags & ~Qt::AlignVertical_Mask) | Qt::AlignTop;
+        }
         painter.save();
         painter.setClipRect(rect, Qt::IntersectClip);
-        painter.setFont(ToQFont(style.fontName, style.fontSize, style.fontBold, style.fontItalic));
+        painter.setFont(font);
         painter.setPen(ToQColor(highlighted ? grid_.ForeColorSel() : style.foreColor));
-        painter.drawText(rect.adjusted(2, 1, -3, -1), flags, ToQString(style.text));
+        painter.drawText(textRect, flags, ToQString(style.text));
         painter.restore();
     }
 

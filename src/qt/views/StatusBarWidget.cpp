@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <algorithm>
 
 #include "controls/StatusBar.h"
 #include "qt/QtText.h"
@@ -55,8 +56,14 @@ void StatusBarWidget::syncFromModel() {
                                                 : panel.Alignment == 2 ? Qt::AlignRight
                                                                        : Qt::AlignLeft));
         const bool spring = panel.AutoSize == sbrSpring;
-        label->setMinimumWidth(TwipsToPixels(spring ? panel.MinWidth : panel.Width));
-        label->setMaximumWidth(spring ? QWIDGETSIZE_MAX : TwipsToPixels(panel.Width));
+        if (panel.AutoSize == sbrContents) {  // as wide as its text, at least MinWidth
+            const int textWidth = label->fontMetrics().horizontalAdvance(label->text()) + 12;
+            label->setMinimumWidth(std::max(TwipsToPixels(panel.MinWidth), textWidth));
+            label->setMaximumWidth(QWIDGETSIZE_MAX);
+        } else {
+            label->setMinimumWidth(TwipsToPixels(spring ? panel.MinWidth : panel.Width));
+            label->setMaximumWidth(spring ? QWIDGETSIZE_MAX : TwipsToPixels(panel.Width));
+        }
         if (!simple) layout_->addWidget(label, spring ? 1 : 0);
     }
     if (!simple) layout_->addStretch(0);

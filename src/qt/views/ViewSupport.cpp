@@ -12,6 +12,15 @@
 
 namespace orbidex {
 
+namespace {
+
+// Half way between two colours.
+QColor midway(const QColor& a, const QColor& b) {
+    return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
+}
+
+}  // namespace
+
 QColor ToQColor(OleColor color, const QPalette& palette) {
     if (!IsSystemColor(color)) return QColor(RedOf(color), GreenOf(color), BlueOf(color));
     switch (color & 0xFF) {
@@ -28,7 +37,9 @@ QColor ToQColor(OleColor color, const QPalette& palette) {
         case 0x0D: return palette.color(QPalette::Highlight);
         case 0x0E: return palette.color(QPalette::HighlightedText);
         case 0x10: return palette.color(QPalette::Dark);
-        case 0x11: return palette.color(QPalette::Disabled, QPalette::Text);
+        // Grey text must stay readable on the light shades the program puts behind
+        // it (headings, weekends), where a theme's disabled text nearly vanishes.
+        case 0x11: return midway(palette.color(QPalette::Text), palette.color(QPalette::Base));
         case 0x12: return palette.color(QPalette::ButtonText);
         case 0x13: return palette.color(QPalette::Disabled, QPalette::WindowText);
         case 0x14: return palette.color(QPalette::Light);
