@@ -31,7 +31,7 @@ long roundedDay(double value) {
 frmDateGenerator::frmDateGenerator() : Form("frmDateGenerator") {
     Caption = "Create List of Dates";
     Width = 5340;
-    Height = 5700;
+    Height = 5400;
     placeControls();
     Command1.onClick = [this] { Command1_Click(); };
     cmdOk.onClick = [this] { cmdOk_Click(); };
@@ -84,18 +84,18 @@ void frmDateGenerator::placeControls() {
     for (const char* unit : {"days", "weeks", "fortnights", "months", "quarters", "years"}) cmbLengthUnit.AddItem(unit);
     onDate.Value = true;
 
-    lvDateList.Move(2640, 180, 2460, 4560);
+    lvDateList.Move(2640, 180, 2580, 4560);
     lvDateList.ColumnHeaders.Add("Dates", 2100);
     lvDateList.FullRowSelect = true;
 
     Command1.Caption = "Calculate ";
-    Command1.Move(2640, 4860, 800, 375);
+    Command1.Move(2640, 4860, 900, 375);
     cmdOk.Caption = "OK";
     cmdOk.Default = true;
-    cmdOk.Move(3500, 4860, 780, 375);
+    cmdOk.Move(3600, 4860, 780, 375);
     cmdCancel.Caption = "Cancel";
     cmdCancel.Cancel = true;
-    cmdCancel.Move(4320, 4860, 780, 375);
+    cmdCancel.Move(4440, 4860, 780, 375);
 }
 
 void frmDateGenerator::Form_Load() {

@@ -1,5 +1,7 @@
 #include "dialogs/frmEditEvent.h"
 
+#include <utility>
+
 #include "config/clsConfigDiary.h"
 #include "controls/KeyCodes.h"
 #include "dialogs/DialogDates.h"
@@ -76,7 +78,7 @@ frmEditEvent::frmEditEvent() : Form("frmEditEvent") {
 }
 
 void frmEditEvent::placeControls() {
-    tabEvent.Move(60, 60, 4110, 2950);
+    tabEvent.Move(60, 30, 4110, 330);
     tabEvent.Tabs.Add("Event", "event");
     tabEvent.Tabs.Add("Advanced", "advanced");
     placeEventTab(frameEvents(0));
@@ -84,12 +86,12 @@ void frmEditEvent::placeControls() {
     placeDetailsPanel();
 
     cmdOK.Caption = "Save and Close";
-    cmdOK.Move(60, 3090, 1250, 375);
+    cmdOK.Move(60, 3090, 1330, 375);
     cmdCancel.Caption = "Cancel";
     cmdCancel.Cancel = true;
-    cmdCancel.Move(1370, 3090, 800, 375);
+    cmdCancel.Move(1450, 3090, 760, 375);
     cmdDetails.Caption = "Details >>";
-    cmdDetails.Move(2230, 3090, 950, 375);
+    cmdDetails.Move(2270, 3090, 930, 375);
     cmdTemplate.Caption = "Templates...";
     cmdTemplate.Move(3240, 3090, 960, 375);
     // The list of event templates is not part of the program yet.
@@ -125,11 +127,11 @@ void frmEditEvent::placeEventTab(Frame& tab) {
     const long reminder = start + 3 * kRowStep;
     chkRemind.Caption = "Reminder";
     row(chkRemind, reminder, 60, 1100);
-    row(cmbReminder, reminder, 1220, 1300);
+    row(cmbReminder, reminder, 1200, 1440);
     Label& before = lbl(kLblBeforeStart);
     before.Caption = "before the start";
     before.SetContainer(&tab);
-    before.Move(2580, reminder + 45, 1380, 255);
+    before.Move(2700, reminder + 45, 1300, 255);
 
     dtPickDate.Format = dtpCustom;
     dtPickDate.CustomFormat = "ddd d-MMM-yyyy";
@@ -140,73 +142,73 @@ void frmEditEvent::placeEventTab(Frame& tab) {
 
 void frmEditEvent::placeAdvancedTab(Frame& tab) {
     tab.Move(90, 360, 4020, 2620);
-    auto row = [&tab](Control& control, long top, long left, long width) {
+    const long fieldLeft = 1860;
+    const long fieldWidth = 2100;
+    auto place = [&tab](Control& control, long left, long top, long width, long height) {
         control.SetContainer(&tab);
-        control.Move(left, top, width, kRowHeight);
+        control.Move(left, top, width, height);
     };
-    auto caption = [this, &tab](int index, const std::string& text, long top) {
+    auto caption = [this, &place](int index, const std::string& text, long left, long top, long width) {
         Label& label = lbl(index);
         label.Caption = text;
-        label.SetContainer(&tab);
-        label.Move(60, top + 45, 1600, 255);
+        place(label, left, top + 45, width, 255);
     };
 
-    Label& willOccur = lbl(kLblReminderWillOccur);
-    willOccur.Caption = "Reminder will occur";
-    willOccur.SetContainer(&tab);
-    willOccur.Move(60, 105, 1600, 255);
-    row(DTPicker1, 60, 1700, 1500);
-    row(DTPicker2, 60 + kRowStep, 1700, 1500);
+    caption(kLblReminderWillOccur, "Reminder will occur", 60, 15, 3900);
+    place(DTPicker1, 60, 330, 2000, kRowHeight);
+    place(DTPicker2, 2120, 330, 1500, kRowHeight);
     DTPicker1.Format = dtpCustom;
     DTPicker1.CustomFormat = "ddd d-MMM-yyyy";
     DTPicker2.Format = dtpTime;
 
-    const long privacy = 60 + 2 * kRowStep + 60;
+    long top = 780;
     chkPrivate.Caption = "Private";
-    row(chkPrivate, privacy, 60, 1000);
-    Label& status = lbl(kLblStatus);
-    status.Caption = "Status";
-    status.SetContainer(&tab);
-    status.Move(1140, privacy + 45, 540, 255);
-    row(txtStatus, privacy, 1700, 2260);
-
-    caption(kLblPriority, "Priority", privacy + kRowStep);
-    row(cmbPriority, privacy + kRowStep, 1700, 2260);
-    caption(kLblAction, "Action (type of event)", privacy + 2 * kRowStep);
-    row(cmbAction, privacy + 2 * kRowStep, 1700, 2260);
-    caption(kLblReference, "Reference", privacy + 3 * kRowStep);
-    row(cmbReference, privacy + 3 * kRowStep, 1700, 2260);
+    place(chkPrivate, 60, top, 1000, kRowHeight);
+    caption(kLblStatus, "Status", 1140, top, 660);
+    place(txtStatus, fieldLeft, top, fieldWidth, kRowHeight);
+    const std::pair<int, const char*> rows[] = {
+        {kLblPriority, "Priority"}, {kLblAction, "Action (type of event)"}, {kLblReference, "Reference"}};
+    ComboBox* const lists[] = {&cmbPriority, &cmbAction, &cmbReference};
+    for (int row = 0; row < 3; ++row) {
+        top += kRowStep;
+        caption(rows[row].first, rows[row].second, 60, top, 1780);
+        place(*lists[row], fieldLeft, top, fieldWidth, kRowHeight);
+    }
+    top += kRowStep;
+    caption(kLblID, "ID :", 60, top, 1780);
+    place(lblID, fieldLeft, top + 45, fieldWidth, 255);
 }
 
 void frmEditEvent::placeDetailsPanel() {
-    const long left = 4350;
-    const long field = 5460;
-    const long fieldWidth = 3360;
-    auto caption = [this, left](int index, const std::string& text, long top, long width) {
+    // Two columns: the short fields just behind the tabs, so that the window at its
+    // first width shows them whole; the long ones further right, for the wide window.
+    const long shortLeft = 4320;
+    const long shortWidth = 1200;
+    const long longLeft = 5640;
+    const long longWidth = 3240;
+    auto caption = [this](int index, const std::string& text, long left, long top, long width) {
         Label& label = lbl(index);
         label.Caption = text;
-        label.Move(left, top + 45, width, 255);
+        label.Move(left, top, width, 255);
     };
 
-    caption(kLblTitle, "Title :", 120, 1000);
-    txtTitle.Move(field, 120, fieldWidth, kRowHeight);
-    txtTitle.Locked = true;
-    caption(kLblContact, "ContactID", 120 + kRowStep, 1000);
-    txtContact.Move(field, 120 + kRowStep, fieldWidth, kRowHeight);
-    caption(kLblJob, "Job to Do ID", 120 + 2 * kRowStep, 1050);
-    txtJobToDo.Move(field, 120 + 2 * kRowStep, fieldWidth, kRowHeight);
+    caption(kLblContact, "ContactID", shortLeft, 120, shortWidth);
+    txtContact.Move(shortLeft, 375, shortWidth, kRowHeight);
+    caption(kLblJob, "Job to Do ID", shortLeft, 750, shortWidth);
+    txtJobToDo.Move(shortLeft, 1005, shortWidth, kRowHeight);
 
-    const long url = 120 + 3 * kRowStep + 60;
-    caption(kLblURL, "Full Filename or website address for this event", url, 4470);
-    txtURL.Move(left, url + 300, 3300, 660);
+    caption(kLblTitle, "Title :", longLeft, 120, longWidth);
+    txtTitle.Move(longLeft, 375, longWidth, kRowHeight);
+    txtTitle.Locked = true;
+    caption(kLblURL, "Full Filename or website address for this event", longLeft, 750, longWidth);
+    lbl(kLblURL).WordWrap = true;
+    lbl(kLblURL).Height = 450;
+    txtURL.Move(longLeft, 1245, longWidth, 900);
     txtURL.OLEDropMode = vbOLEDropManual;
     txtURL.ToolTipText = "Drop a file or a link here";
     cmdLaunch.Caption = "Run file";
     cmdLaunch.ToolTipText = "Launch this file or URL";
-    cmdLaunch.Move(7710, url + 300, 1110, 375);
-
-    caption(kLblID, "ID :", url + 1080, 1000);
-    lblID.Move(field, url + 1125, fieldWidth, 255);
+    cmdLaunch.Move(longLeft + longWidth - 1110, 2220, 1110, 375);
 }
 
 void frmEditEvent::fillLists() {

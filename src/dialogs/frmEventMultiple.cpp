@@ -45,10 +45,12 @@ void frmEventMultiple::placeControls() {
         label.Caption = text;
         label.Move(left, top, width, 255);
     };
-    caption(0, "Details of Event (this will be repeated for all days)", 120, 120, 3900);
+    // The long captions take a smaller type, to stand whole in the narrow window.
+    caption(0, "Details of Event (this will be repeated for all days)", 120, 120, 3960);
+    lbl(0).FontSize = 7;
     txtDetails.Move(120, 390, 3900, 315);
-    caption(1, "Action (type of event)", 120, 795, 1700);
-    cmbAction.Move(1860, 750, 2160, 315);
+    caption(1, "Action (type of event)", 120, 795, 1800);
+    cmbAction.Move(1920, 750, 2100, 315);
     cmbAction.Style = vbComboDropdownList;
 
     caption(2, "from ", 120, 1185, 480);
@@ -59,7 +61,8 @@ void frmEventMultiple::placeControls() {
     dtPickEndTime.Format = dtpTime;
 
     chkRemindOnce.Caption = "Remind Me ONCE before the first event starts at";
-    chkRemindOnce.Move(120, 1590, 3900, 285);
+    chkRemindOnce.Move(60, 1590, 4080, 285);
+    chkRemindOnce.FontSize = 7;
     dtPickFirstRemindDate.Move(360, 1890, 2040, 315);
     dtPickFirstRemindDate.Format = dtpCustom;
     dtPickFirstRemindDate.CustomFormat = "ddd d-MMM-yyyy";
@@ -69,7 +72,8 @@ void frmEventMultiple::placeControls() {
     dtPickFirstRemindDate.Enabled = false;
     dtPickFirstRemindTime.Enabled = false;
     chkRemind.Caption = "The remaining events will remind me on each day at";
-    chkRemind.Move(120, 2340, 3900, 285);
+    chkRemind.Move(60, 2340, 4080, 285);
+    chkRemind.FontSize = 7;
     DTPicker2.Move(360, 2640, 1560, 315);
     DTPicker2.Format = dtpTime;
 

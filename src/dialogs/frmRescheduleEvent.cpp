@@ -35,7 +35,7 @@ void choose(OptionButton& option, Handler handler) {
 
 frmRescheduleEvent::frmRescheduleEvent() : Form("frmRescheduleEvent") {
     Caption = "Rescheduling...";
-    Width = 5460;
+    Width = 5760;
     Height = 4560;
     placeControls();
     bindEvents();
@@ -47,15 +47,15 @@ void frmRescheduleEvent::placeControls() {
     dtPickDate.Move(1020, 120, 2100, 315);
     dtPickDate.Format = dtpCustom;
     dtPickDate.CustomFormat = "ddd d-MMM-yyyy";
-    dtPickTime.Move(3180, 120, 2040, 315);
+    dtPickTime.Move(3180, 120, 2340, 315);
     dtPickTime.Format = dtpTime;
     // The present date and time are what the choices count from: shown, not changed.
     dtPickDate.Enabled = false;
     dtPickTime.Enabled = false;
-    txtDetails.Move(120, 540, 5100, 315);
+    txtDetails.Move(120, 540, 5400, 315);
 
     fraMoveAhead.Caption = "How Far Ahead";
-    fraMoveAhead.Move(120, 960, 2460, 1980);
+    fraMoveAhead.Move(120, 960, 2160, 1980);
     const char* const aheadCaptions[] = {"The next day", "Next week", "Next Fortnight", "As chosen below",
                                          "The Same day"};
     const int aheadOrder[] = {kMoveSameDay, 0, 1, 2, kMoveAsChosen};
@@ -63,18 +63,18 @@ void frmRescheduleEvent::placeControls() {
         OptionButton& option = optMoveAhead(aheadOrder[row]);
         option.Caption = aheadCaptions[aheadOrder[row]];
         option.SetContainer(&fraMoveAhead);
-        option.Move(120, 270 + row * 330, 2220, 285);
+        option.Move(120, 270 + row * 330, 1920, 285);
     }
 
     fraWhen.Caption = "At What Time";
-    fraWhen.Move(2700, 960, 2520, 1980);
+    fraWhen.Move(2400, 960, 3120, 1980);
     const char* const whenCaptions[] = {"Find Next Available Time Slot", "Same Time", "Morning", "Afternoon"};
     const int whenOrder[] = {1, 2, 3, 0};
     for (int row = 0; row < 4; ++row) {
         OptionButton& option = optWhen(whenOrder[row]);
         option.Caption = whenCaptions[whenOrder[row]];
         option.SetContainer(&fraWhen);
-        option.Move(120, 270 + row * 330, 2300, 285);
+        option.Move(120, 270 + row * 330, 2940, 285);
     }
 
     lblFinal.Caption = "Moves to";
@@ -88,15 +88,15 @@ void frmRescheduleEvent::placeControls() {
     cmbBrowse(1).Caption = ">>";
     cmbBrowse(1).ToolTipText = "Forward by the days the diary shows";
     cmbBrowse(1).Move(2760, 3360, 420, 315);
-    dpFinalTime.Move(3300, 3360, 1920, 315);
+    dpFinalTime.Move(3300, 3360, 2220, 315);
     dpFinalTime.Format = dtpTime;
 
     cmdOK.Caption = "OK";
     cmdOK.Default = true;
-    cmdOK.Move(2700, 3900, 1200, 375);
+    cmdOK.Move(3000, 3900, 1200, 375);
     cmdCancel.Caption = "Cancel";
     cmdCancel.Cancel = true;
-    cmdCancel.Move(4020, 3900, 1200, 375);
+    cmdCancel.Move(4320, 3900, 1200, 375);
 }
 
 void frmRescheduleEvent::bindEvents() {
