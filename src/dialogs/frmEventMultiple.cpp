@@ -93,10 +93,10 @@ void frmEventMultiple::placeControls() {
 }
 
 void frmEventMultiple::placeDetailsPanel() {
-    const long left = 4260;
-    const long width = 2160;
+    constexpr long left = 4260;
+    constexpr long width = 2160;
     long top = 120;
-    auto field = [this, left, width, &top](int index, const std::string& text, TextBox& box) {
+    auto field = [this, &top](int index, const std::string& text, TextBox& box) {
         Label& label = lbl(index);
         label.Caption = text;
         label.Move(left, top, width, 255);

@@ -104,7 +104,7 @@ void cDiaryRecords::DiaryEventEdit() {
     CheckDataFileAndReloadIfNeccesary();
     glbConfig.dialogEditing = true;
     glbConfig.dialogCancelled = false;
-    const long oldMonth = static_cast<long>(Val(Mid(events(gintcur).DateEvent, 5, 2)));
+    const double oldMonth = Val(Mid(events(gintcur).DateEvent, 5, 2));
     cDiaryRecord oldRecord;
     oldRecord.AssignRecord(events(gintcur));
     gCurrentEvent.AssignRecord(events(gintcur));
@@ -120,7 +120,7 @@ void cDiaryRecords::DiaryEventEdit() {
     }
 
     if (glbConfig.dataChanged) {
-        if (static_cast<long>(Val(Mid(gCurrentEvent.DateEvent, 5, 2))) == oldMonth) {
+        if (Val(Mid(gCurrentEvent.DateEvent, 5, 2)) == oldMonth) {
             SaveDiaryArray(kFieldDelimiter, nullptr);
             glbConfig.dataChanged = false;
         } else {
