@@ -83,15 +83,6 @@ TEST_F(DateGeneratorTest, MonthsQuartersAndYearsKeepTheDayOfTheStart) {
     EXPECT_EQ(years.size(), 101U) << "a hundred years on at most";
 }
 
-TEST_F(DateGeneratorTest, OkKeepsTheListAndCancelDropsIt) {
-    RunFor(At(2004, 6, 7, 15), kDay, "3", kDays);
-    form.cmdOk.UserClick();
-    EXPECT_FALSE(form.Visible());
-    EXPECT_EQ(form.lvDateList.ListItems.Count(), 3);
-    form.cmdCancel.UserClick();
-    EXPECT_EQ(form.lvDateList.ListItems.Count(), 0);
-}
-
 class EventMultipleTest : public orbidex::test::DialogFixture {
 protected:
     void SetUp() override {
