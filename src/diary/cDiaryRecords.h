@@ -18,6 +18,7 @@
 
 namespace orbidex {
 
+class ComboBox;
 class FlexGrid;
 class ListBox;
 class ListItem;
@@ -111,6 +112,34 @@ public:
     void DeleteDiaryEventFromArray(long index);
     /// Kept for its callers: the array stays in file order.
     void SortDiaryArray();
+
+    // What the user does to one event: add, edit, reschedule, move, delete.  Each
+    // works on gCurrentEvent through its dialog, saves the month and, for a meeting,
+    // tells the other users through the change request file.
+
+    /// A new event on `date` at `time` ("" for now).  Without `details` the event
+    /// editor opens; with them the event is added as it stands.  A cancelled dialog
+    /// leaves the file untouched.
+    void DiaryEventAdd(VbDate date, const std::string& time, const std::string& details);
+    /// Opens the event editor on the selected event and stores the result.
+    void DiaryEventEdit();
+    /// Opens the reschedule dialog on the selected event and stores the result.
+    void DiaryEventReschedule();
+    /// Takes `oldRecord` out of its month and appends `newRecord` to its own month,
+    /// which is then loaded.
+    void DiaryEventMove(const cDiaryRecord& oldRecord, cDiaryRecord newRecord);
+    /// Deletes the selected event, after asking unless `noQuestion`; a meeting may
+    /// be cancelled on the other users' diaries.
+    void DiaryEventDelete(bool noQuestion);
+    /// Adds `records` (from index 1 to `count`), month by month, and reports.
+    void AddBulkRecords(std::vector<cDiaryRecord>& records, long count);
+    /// Appends a change of a meeting to the change request file: a header line, the
+    /// old event and the new one.
+    void SendEventChanges(const cDiaryRecord& oldRecord, const cDiaryRecord& newRecord);
+    /// Fills the list with the common locations, then the user's own in their place.
+    void DisplayLocations(ComboBox& control);
+    /// Fills the list with the common references, then the user's own in their place.
+    void DisplayReferences(ComboBox& control);
 
     // The calendar side of the main window: the time grid and the event list
 

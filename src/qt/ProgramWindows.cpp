@@ -1,6 +1,8 @@
 // The Qt window of each form of the program.
 #include "qt/MainWindow.h"
 #include "qt/QtFormRegistry.h"
+#include "qt/views/ControlWidget.h"
+#include "qt/views/FormWindow.h"
 #include "screen/frmClientDiaryMain.h"
 
 namespace orbidex {
@@ -8,6 +10,10 @@ namespace orbidex {
 void RegisterProgramWindows(QtFormRegistry& registry) {
     registry.Register("frmClientDiaryMain",
                       [](Form& form) { return new MainWindow(static_cast<frmClientDiaryMain&>(form)); });
+
+    // The event dialogs: every control is drawn at its place by the form's window.
+    for (const char* dialog : {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator"})
+        registry.Register(dialog, [](Form& form) { return new FormWindow(form); });
 }
 
 }  // namespace orbidex

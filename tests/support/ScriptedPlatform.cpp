@@ -52,6 +52,11 @@ std::string ScriptedPlatform::InputBox(const std::string& prompt, const std::str
 
 void ScriptedPlatform::DoEvents() {
     ++doEventsCount_;
+    // A wait that never ends would hang the test: stop it with a problem instead.
+    if (doEventsCount_ % kRunawayDoEvents == 0) {
+        problem("DoEvents called " + std::to_string(doEventsCount_) + " times: a wait that never ends?");
+        throw ProgramEnded{-1};
+    }
     AdvanceSeconds(doEventsTick_);
     for (size_t i = 0; i < hooks_.size(); ++i) hooks_[i]();
 }

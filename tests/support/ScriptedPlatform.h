@@ -28,8 +28,9 @@ public:
     // The clock
     void SetNow(VbDate now) { now_ = now; }
     void AdvanceSeconds(double seconds);
-    /// How far the clock moves at each DoEvents() (default 0.05 s), so that a wait
-    /// that loops on the clock ends.
+    /// How far the clock moves at each DoEvents(): by default not at all, so that
+    /// the event pump of a drawing leaves the time a test expects.  A test of a wait
+    /// that loops on the clock sets a tick (or a hook that ends the wait).
     void SetDoEventsTick(double seconds) { doEventsTick_ = seconds; }
 
     // Answers: each question takes the first queued answer.  A question without one
@@ -101,11 +102,13 @@ public:
     [[noreturn]] void EndProgram(int exitCode) override;
 
 private:
+    static constexpr long kRunawayDoEvents = 1000000;
+
     void runFormScript(Form& form);
     void problem(const std::string& description);
 
     VbDate now_;
-    double doEventsTick_ = 0.05;
+    double doEventsTick_ = 0;
     std::deque<int> msgAnswers_;
     std::deque<std::string> inputAnswers_;
     std::vector<DialogRecord> transcript_;

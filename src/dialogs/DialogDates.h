@@ -1,0 +1,38 @@
+#pragma once
+// Dates and times of the event line as the dialogs' pickers hold them.
+
+#include <algorithm>
+#include <string>
+
+#include "foundation/VbDate.h"
+#include "foundation/VbString.h"
+
+namespace orbidex {
+
+/// The whole number a part of a date text reads as ("9D20" reads as 9E20), kept
+/// within what date arithmetic can take.
+inline int DatePartOfText(const std::string& text) {
+    return static_cast<int>(std::clamp(Val(text), -100000.0, 100000.0));
+}
+
+/// The date of a "yyyymmdd" text: characters 1 to 4, 5 and 6, 7 and 8.  A broken
+/// text gives a date a picker can hold, from the year 100 to the year 9999.
+inline VbDate DateOfText(const std::string& yyyymmdd) {
+    const VbDate date = DateSerial(DatePartOfText(Mid(yyyymmdd, 1, 4)), DatePartOfText(Mid(yyyymmdd, 5, 2)),
+                                   DatePartOfText(Mid(yyyymmdd, 7, 2)));
+    return std::clamp(date, DateSerial(100, 1, 1), DateSerial(9999, 12, 31));
+}
+
+/// The time of day of an "hhmm" text: the hour from its first two characters, the
+/// minute from its last two.
+inline VbDate TimeOfText(const std::string& hhmm) {
+    return TimeSerial(DatePartOfText(Left(hhmm, 2)), DatePartOfText(Right(hhmm, 2)), 0);
+}
+
+/// A day with a time of day, kept as a VB date keeps it: a day before 1900 holds its
+/// time as a positive fraction too.
+inline VbDate AtTimeOfDay(VbDate day, VbDate time) {
+    return day < 0 ? day - time : day + time;
+}
+
+}  // namespace orbidex

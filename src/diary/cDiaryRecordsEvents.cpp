@@ -1,0 +1,269 @@
+// What the user does to one event: add, edit, reschedule, move and delete it, add
+// one event on many dates, tell other users of a changed meeting, and the word
+// lists of the event editor.
+#include <algorithm>
+#include <cstdint>
+
+#include "config/clsConfigDiary.h"
+#include "controls/ComboBox.h"
+#include "controls/LoadFileToListBox.h"
+#include "dialogs/frmEditEvent.h"
+#include "dialogs/frmRescheduleEvent.h"
+#include "diary/cDiaryRecords.h"
+#include "foundation/DateHelpers.h"
+#include "foundation/FileHelpers.h"
+#include "foundation/FileSystem.h"
+#include "foundation/ProgramState.h"
+#include "foundation/VbDate.h"
+#include "foundation/VbString.h"
+#include "foundation/cLog.h"
+#include "network/cComms.h"
+#include "screen/clsDiaryScreen.h"
+#include "screen/clsTimeSlots.h"
+#include "screen/frmClientDiaryMain.h"
+
+namespace orbidex {
+
+namespace {
+
+const char* const kNotifyTitle = "Mult-User Event - Notify Others?";
+
+bool isMeetingReference(const cDiaryRecord& event) {
+    return Left(event.Reference, 7) == "Meeting";
+}
+
+// Whole minutes of one time slot, the length a new event starts with.
+std::string slotMinutes() {
+    const auto& slots = glbConfig.timeSlots;
+    const int perHour = slots && slots->numSlotsPerHour >= 1 ? slots->numSlotsPerHour : 1;
+    return CStr(60 / perHour);
+}
+
+bool answeredYes(const std::string& question) {
+    return platform().MsgBox(question, vbYesNo, kNotifyTitle) == vbYes;
+}
+
+}  // namespace
+
+void cDiaryRecords::DiaryEventAdd(VbDate date, const std::string& time, const std::string& details) {
+    // A file changed behind the program's back is read again first, so that the
+    // save below does not write over what was added to it.
+    CheckDataFileAndReloadIfNeccesary();
+    if (gIntTotalEvents >= INT16_MAX) {
+        glbLog.log("DiaryEventAdd - the month holds as many events as it can", 0);
+        return;
+    }
+    // The new event goes behind the old top slot, which stays empty until the reload.
+    ++gIntTotalEvents;
+    gintcur = gIntTotalEvents;
+    SetUpperBound(gIntTotalEvents + 1);
+    cDiaryRecord& event = CreateRecordAt(gintcur);
+
+    // A date that was never set (before 1900) means today, also for the file asked for.
+    const bool unset = FormatDate(date, "yyyymmdd") < "19000000";
+    // Counted from today: the sequence numbers the events entered today in that file.
+    const std::string file = GetDiaryFileNameForDate(unset ? Today() : date);
+    event.ID = getUniqueID(file, Today(), kFieldDelimiter);
+    event.DateEvent = FormatDate(unset ? Today() : date, "yyyymmdd");
+    event.TimeEvent = time;
+    event.ContactID = GetPCUserName();
+    event.length = slotMinutes();
+    if (event.TimeEvent.empty()) event.TimeEvent = FormatDate(Now(), "hhmm");
+    if (date > Now()) {
+        event.DateRemind = FormatDate(date, "yyyymmdd");
+        event.TimeRemind = time;
+    }
+    glbConfig.dialogCancelled = false;
+    glbConfig.dialogEditing = false;
+
+    if (!details.empty()) {
+        event.details = details;
+    } else {
+        gCurrentEvent.AssignRecord(event);
+        frmEditEvent dialog;
+        dialog.Show(true);
+        event.AssignRecord(gCurrentEvent);
+    }
+
+    if (glbConfig.dialogCancelled) {
+        --gIntTotalEvents;
+        SetUpperBound(gIntTotalEvents);
+        gintcur = gIntTotalEvents;
+    } else {
+        platform().SetBusyCursor(true);
+        SaveDiaryArray(kFieldDelimiter, nullptr);
+    }
+    platform().SetBusyCursor(false);
+}
+
+void cDiaryRecords::DiaryEventEdit() {
+    if (gintcur < 0) {
+        platform().MsgBox("I dont know which event you selected", vbOKOnly, "");
+        return;
+    }
+    CheckDataFileAndReloadIfNeccesary();
+    glbConfig.dialogEditing = true;
+    glbConfig.dialogCancelled = false;
+    const double oldMonth = Val(Mid(events(gintcur).DateEvent, 5, 2));
+    cDiaryRecord oldRecord;
+    oldRecord.AssignRecord(events(gintcur));
+    gCurrentEvent.AssignRecord(events(gintcur));
+
+    {
+        frmEditEvent dialog;
+        dialog.Show(true);
+    }
+    events(gintcur).AssignRecord(gCurrentEvent);
+    if (glbConfig.dialogCancelled) {
+        platform().SetBusyCursor(false);
+        return;
+    }
+
+    if (glbConfig.dataChanged) {
+        if (Val(Mid(gCurrentEvent.DateEvent, 5, 2)) == oldMonth) {
+            SaveDiaryArray(kFieldDelimiter, nullptr);
+            glbConfig.dataChanged = false;
+        } else {
+            // Another month: the event is appended to its new month, then taken out
+            // of the old one, which is loaded again for that.
+            cDiaryRecord moved;
+            moved.AssignRecord(gCurrentEvent);
+            AddDiaryRecord(moved, true);
+            InitDiary(&MainForm(), "");
+            LoadDiaryData(DateFromYYYYMMDD(oldRecord.DateEvent));
+            const int16_t selected = gintcur;
+            gintcur = static_cast<int16_t>(SelectDiaryRecordFromID(oldRecord.ID));
+            DiaryEventDelete(true);
+            gintcur = selected;
+            glbLog.log("moving an event to a different month in this version", 0);
+        }
+    }
+
+    if (oldRecord.isDiaryRecordMeeting() &&
+        answeredYes("This is a meeting - do you update changes on the other users diaries?"))
+        SendEventChanges(oldRecord, gCurrentEvent);
+    platform().SetBusyCursor(false);
+}
+
+void cDiaryRecords::DiaryEventReschedule() {
+    if (gintcur < 0) return;
+    CheckDataFileAndReloadIfNeccesary();
+    glbConfig.dialogEditing = true;
+    glbConfig.dialogCancelled = false;
+    gCurrentEvent.AssignRecord(events(gintcur));
+    cDiaryRecord oldRecord;
+    oldRecord.AssignRecord(gCurrentEvent);
+
+    {
+        frmRescheduleEvent dialog;
+        dialog.Show(true);
+    }
+    if (!glbConfig.dialogCancelled) {
+        // Showing another day in the main window leaves no event selected: the
+        // event is then moved through the files.
+        if (gintcur < 0) {
+            DiaryEventMove(oldRecord, gCurrentEvent);
+        } else {
+            events(gintcur).AssignRecord(gCurrentEvent);
+            SaveDiaryArray(kFieldDelimiter, nullptr);
+            glbConfig.dataChanged = false;
+        }
+        if (isMeetingReference(gCurrentEvent)) SendEventChanges(oldRecord, gCurrentEvent);
+    }
+    platform().SetBusyCursor(false);
+}
+
+void cDiaryRecords::DiaryEventMove(const cDiaryRecord& oldRecord, cDiaryRecord newRecord) {
+    if (Left(oldRecord.DateEvent, 6) == Left(newRecord.DateEvent, 6))
+        CheckDataFileAndReloadIfNeccesary();
+    else
+        LoadDiaryData(DateFromYYYYMMDD(oldRecord.DateEvent));
+
+    DeleteDiaryEventFromArray(SelectDiaryRecordFromID(oldRecord.ID));
+    SaveDiaryArray(kFieldDelimiter, nullptr);
+    glbConfig.dataChanged = false;
+
+    const VbDate newDate = DateFromYYYYMMDD(newRecord.DateEvent);
+    gStrDiaryDataFile = GetDiaryFileNameForDate(newDate);
+    AddDiaryRecord(newRecord);
+    LoadDiaryData(newDate);
+}
+
+void cDiaryRecords::DiaryEventDelete(bool noQuestion) {
+    if (gintcur < 0) {
+        platform().MsgBox("Select a record to be deleted first", vbOKOnly, "");
+        return;
+    }
+    cDiaryRecord deleted;
+    deleted.AssignRecord(events(gintcur));
+    cDiaryRecord cancelled;
+    cancelled.AssignRecord(events(gintcur));
+
+    if (!noQuestion) {
+        const std::string question = "Deleting event on " + deleted.DateEvent + " at " + deleted.TimeEvent +
+                                     " details :" + deleted.details + "\r\n\r\nDo you want to delete this event";
+        if (platform().MsgBox(question, vbYesNo, "Deleting Event from Diary") != vbYes) return;
+    }
+    DeleteDiaryEventFromArray(gintcur);
+
+    // An empty date in the new form of a meeting cancels it for the others.
+    if (isMeetingReference(deleted) &&
+        answeredYes("This is a meeting - do you cancel this event on the other users diaries?")) {
+        cancelled.DateEvent.clear();
+        cancelled.TimeEvent.clear();
+        SendEventChanges(deleted, cancelled);
+    }
+}
+
+void cDiaryRecords::AddBulkRecords(std::vector<cDiaryRecord>& records, long count) {
+    count = std::clamp(count, 0L, std::max(static_cast<long>(records.size()) - 1, 0L));
+    auto monthFileOf = [this](const cDiaryRecord& record) {
+        return GetDiaryFileNameForDate(DateFromYYYYMMDD(record.DateEvent));
+    };
+
+    // The months the records fall in, each file made if missing.
+    const std::string monthList = gStrDataPath + "tmpFileList.txt";
+    std::string names;
+    for (long i = 1; i <= count; ++i) names += GetFileNameOnly(monthFileOf(records[static_cast<size_t>(i)])) + "\r\n";
+    WriteWholeFile(monthList, names);
+    std::vector<std::string> months;
+    ReadUniqueFieldValues(monthList, 1, 7, months);
+
+    // Month by month; only the first month's events go to the server one at a time.
+    bool firstMonth = true;
+    for (const std::string& month : months) {
+        const std::string file = gStrDataPath + month + ".dat";
+        if (!FileExists(file)) continue;
+        for (long i = 1; i <= count; ++i) {
+            cDiaryRecord& record = records[static_cast<size_t>(i)];
+            glbLog.log("Bulk adding - " + record.details + " to " + record.DateEvent, 0);
+            if (UCase(GetFileNameOnly(monthFileOf(record))) == UCase(month) + ".DAT")
+                AddDiaryRecord(record, true, !firstMonth);
+        }
+        glbComms.SaveDiaryFileToServer(file, false);
+        firstMonth = false;
+    }
+
+    LoadDiaryData(MainForm().MonthView1.Value);
+    glbScreen.SwitchMode(glbScreen.Mode());
+    platform().MsgBox("Finished adding " + CStr(count) + " records.", vbOKOnly, "Success");
+}
+
+void cDiaryRecords::SendEventChanges(const cDiaryRecord& oldRecord, const cDiaryRecord& newRecord) {
+    const std::string header = "; " + FormatDate(Now(), "yyyymmdd hh:mm:ss") + " by PC User " + GetPCUserName();
+    AppendToFile(gStrDataPath + "_CHANGE_REQUEST.TXT",
+                 header + "\r\n" + "OLD " + oldRecord.FormatDiaryRecordAsCSV(kFieldDelimiter, "") + "\r\n" + "NEW " +
+                     newRecord.FormatDiaryRecordAsCSV(kFieldDelimiter, "") + "\r\n");
+}
+
+void cDiaryRecords::DisplayLocations(ComboBox& control) {
+    LoadFileToListBox(control, gStrDataPath + "common_locations.txt");
+    LoadFileToListBox(control, gStrDataPath + "locations.txt");
+}
+
+void cDiaryRecords::DisplayReferences(ComboBox& control) {
+    LoadFileToListBox(control, gStrDataPath + "common_references.txt");
+    LoadFileToListBox(control, gStrDataPath + "references.txt");
+}
+
+}  // namespace orbidex
