@@ -205,11 +205,12 @@ TEST_F(MainWindowTest, MenusToolBarAndIcons) {
     ASSERT_NE(print, nullptr);
     EXPECT_TRUE(print->isEnabled());
     EXPECT_EQ(print->shortcut(), QKeySequence(QStringLiteral("Ctrl+P")));
-    EXPECT_FALSE(entry(QStringLiteral("&Appointments"), QStringLiteral("&Add Appointment"))->isEnabled());
+    EXPECT_FALSE(entry(QStringLiteral("&Appointments"), QStringLiteral("&Plan a Meeting with other users"))->isEnabled());
     EXPECT_EQ(entry(QStringLiteral("&View"), QStringLiteral("&Refresh"))->shortcut(),
               QKeySequence(QStringLiteral("F5")));
 
-    EXPECT_FALSE(buttonAction("new")->isEnabled());
+    EXPECT_TRUE(buttonAction("new")->isEnabled());
+    EXPECT_FALSE(buttonAction("Find")->isEnabled());
     EXPECT_EQ(buttonAction("print")->text(), QStringLiteral("Print   "));
     EXPECT_EQ(buttonAction("print")->toolTip(), QStringLiteral("Print the current view"));
     // The program's own icons, not the tiles of unknown names.
