@@ -31,10 +31,12 @@ int16_t clsDiaryCommand::currentIndex(long index) {
     return index < 0 || index > std::numeric_limits<int16_t>::max() ? int16_t{-1} : static_cast<int16_t>(index);
 }
 
-void clsDiaryCommand::enableEventEntries() {
+void clsDiaryCommand::enableEventEntries(bool menuBarToo) {
     const bool selected = gintcur >= 0;
-    for (Menu* entry : {&form_->mnuAppEdit, &form_->mnuAppDelete, &form_->mnuAppReschedule, &form_->mnuPopupGridEdit,
-                        &form_->mnuPopupGridDelete, &form_->mnuPopupGridReschedule})
+    for (Menu* entry : {&form_->mnuPopupGridEdit, &form_->mnuPopupGridDelete, &form_->mnuPopupGridReschedule})
+        form_->EnableEntry(*entry, selected);
+    if (!menuBarToo) return;
+    for (Menu* entry : {&form_->mnuAppEdit, &form_->mnuAppDelete, &form_->mnuAppReschedule})
         form_->EnableEntry(*entry, selected);
 }
 
@@ -44,7 +46,7 @@ void clsDiaryCommand::MouseGridClicked(FlexGrid& grid) {
     if (glbScreen.Mode() == "CALENDAR") {
         glbEvents.GetEventFromGrid(grid, form_->MonthView1, form_->status);
         grid.ToolTipText = text;
-        enableEventEntries();
+        enableEventEntries(false);
         return;
     }
     // The staff grid: the text of a cell, and whether the time is taken.
@@ -88,7 +90,7 @@ void clsDiaryCommand::MouseListClicked(ListView& list) {
     if (mode == "CALENDAR") {
         if (item == nullptr) return;
         gintcur = currentIndex(glbEvents.SelectDiaryRecordFromID(item->Key));
-        enableEventEntries();
+        enableEventEntries(true);
     } else if (mode == "MESSAGE") {
         if (item != nullptr) form_->status.Panels(1).Text = "Message = " + item->ToolTipText();
     } else if (mode != "TASK" && mode != "NOTE") {
