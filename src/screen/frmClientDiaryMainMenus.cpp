@@ -16,11 +16,10 @@ namespace {
 // operation in this version of the program.
 const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
-        "mnuFileImport",        "mnuFileExport",      "mnuAppPlanMeeting", "mnuTaskMenu",
-        "mnuTaskHeadings",      "mnuNotesMenu",       "mnuSearchQuick",    "mnuOptScrapPaper",
-        "mnuToolsCalendar",     "mnuViewSetup",       "mnuOptionsDisplay", "mnuOptionsListView",
-        "mnuOptionsTaskHeadings", "mnuPingServer",    "mnuServerLoggon",   "mnuServerLogoff",
-        "mnuBetaServerEnforce", "mnuBetaReindexTask", "mnuBetaTest(0)",    "mnuBetaTest(1)",
+        "mnuFileImport",     "mnuFileExport",        "mnuAppPlanMeeting",      "mnuTaskMenu",      "mnuTaskHeadings",
+        "mnuNotesMenu",      "mnuSearchQuick",       "mnuOptScrapPaper",       "mnuToolsCalendar", "mnuViewSetup",
+        "mnuOptionsDisplay", "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuPingServer",    "mnuServerLoggon",
+        "mnuServerLogoff",   "mnuBetaServerEnforce", "mnuBetaReindexTask",     "mnuBetaTest(0)",   "mnuBetaTest(1)",
         "mnuHelpAbout",
     };
     return names;

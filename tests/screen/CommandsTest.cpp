@@ -90,8 +90,7 @@ TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
     EXPECT_EQ(Panel(1), panel);
     for (const char* mode : {"HOME", "CALENDAR", "NOTE", "MESSAGE"}) {
         glbScreen.SwitchMode(mode);
-        EXPECT_EQ(bar.Buttons("new").Enabled(), std::string(mode) == "HOME" || std::string(mode) == "CALENDAR")
-            << mode;
+        EXPECT_EQ(bar.Buttons("new").Enabled(), std::string(mode) == "HOME" || std::string(mode) == "CALENDAR") << mode;
     }
 }
 

@@ -28,14 +28,15 @@ std::string Fields(const std::vector<std::string>& fields) {
 }
 
 std::string Event(const std::string& id, const std::string& time, const std::string& details) {
-    return Fields({id, "20040605", "Phone", time, "30", "Call", "fred", "", "", "", "", "Normal", "", "Office", details});
+    return Fields(
+        {id, "20040605", "Phone", time, "30", "Call", "fred", "", "", "", "", "Normal", "", "Office", details});
 }
 
 // An event as the editor saves a new one: the user as contact, half an hour long.
-std::string Added(const std::string& id, const std::string& date, const std::string& time,
-                  const std::string& details, const std::string& remind = "") {
-    return Fields({id, date, "", time, "30", "", "fred", "", "", remind.empty() ? "" : date, remind, "", "", "",
-                   details});
+std::string Added(const std::string& id, const std::string& date, const std::string& time, const std::string& details,
+                  const std::string& remind = "") {
+    return Fields(
+        {id, date, "", time, "30", "", "fred", "", "", remind.empty() ? "" : date, remind, "", "", "", details});
 }
 
 }  // namespace

@@ -198,8 +198,8 @@ void ListViewWidget::syncFromModel() {
 }
 
 bool ListViewWidget::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::MouseButtonDblClick || view_ == nullptr || watched != view_->viewport() ||
-        syncing() || model() == nullptr)
+    if (event->type() != QEvent::MouseButtonDblClick || view_ == nullptr || watched != view_->viewport() || syncing() ||
+        model() == nullptr)
         return ControlWidget::eventFilter(watched, event);
     const auto* mouse = static_cast<QMouseEvent*>(event);
     if (mouse->button() != Qt::LeftButton || view_->indexAt(mouse->position().toPoint()).isValid())
