@@ -1,9 +1,5 @@
-// The command layer: the end of the program, the view commands and the mouse on the
-// views.
+// The command layer: the end of the program and the view commands.
 #include "screen/clsDiaryCommand.h"
-
-#include <algorithm>
-#include <limits>
 
 #include "config/clsConfigDiary.h"
 #include "diary/cDiaryRecords.h"
@@ -19,15 +15,6 @@
 namespace orbidex {
 
 clsDiaryCommand glbCmd;
-
-namespace {
-
-// gintcur is 16 bits: an event beyond its reach counts as none.
-int16_t toIndex(long index) {
-    return index < 0 || index > std::numeric_limits<int16_t>::max() ? int16_t{-1} : static_cast<int16_t>(index);
-}
-
-}  // namespace
 
 void clsDiaryCommand::CommandExit() {
     glbComms.Logoff();
@@ -132,67 +119,12 @@ void clsDiaryCommand::serverPing() {
     timerOn(true);
 }
 
-void clsDiaryCommand::MouseGridClicked(FlexGrid& grid) {
-    if (form_ == nullptr) return;
-    const std::string text = grid.Text;
-    if (glbScreen.Mode() == "CALENDAR") {
-        glbEvents.GetEventFromGrid(grid, form_->MonthView1, form_->status);
-        grid.ToolTipText = text;
-        const bool selected = gintcur >= 0;
-        form_->EnableEntry(form_->mnuPopupGridEdit, selected);
-        form_->EnableEntry(form_->mnuPopupGridDelete, selected);
-        form_->EnableEntry(form_->mnuPopupGridReschedule, selected);
-        return;
-    }
-    // The staff grid: the text of a cell, and whether the time is taken.
-    std::string tip = "Blank Timeslot";
-    if (!Trim(text).empty()) {
-        tip = text;
-        form_->status.Panels(2).Text = " " + text;
-    }
-    if (grid.CellBackColor == static_cast<OleColor>(glbConfig.spanning_BackColor)) tip += " BUSY";
-    grid.ToolTipText = tip;
-}
-
-void clsDiaryCommand::MouseListClicked(ListView& list) {
-    if (form_ == nullptr) return;
-    const std::string& mode = glbScreen.Mode();
-    ListItem* item = list.SelectedItem();
-    if (mode == "CALENDAR") {
-        if (item == nullptr) return;
-        gintcur = toIndex(glbEvents.SelectDiaryRecordFromID(item->Key));
-        const bool selected = gintcur >= 0;
-        for (Menu* entry : {&form_->mnuAppEdit, &form_->mnuAppDelete, &form_->mnuAppReschedule,
-                            &form_->mnuPopupGridEdit, &form_->mnuPopupGridDelete, &form_->mnuPopupGridReschedule})
-            form_->EnableEntry(*entry, selected);
-    } else if (mode == "MESSAGE") {
-        if (item != nullptr) form_->status.Panels(1).Text = "Message = " + item->ToolTipText();
-    } else if (mode != "TASK" && mode != "NOTE") {
-        platform().MsgBox("MouseListClicked not setup for this data type yet", vbOKOnly, "");
-    }
-}
-
 void clsDiaryCommand::unavailable(const std::string& what) {
     const std::string text = "Not available yet: " + what;
     glbLog.log(text, 3);
     if (form_ != nullptr) form_->status.Panels(1).Text = text;
 }
 
-void clsDiaryCommand::EventAdd(VbDate, const std::string&) {
-    unavailable("adding an event");
-}
-void clsDiaryCommand::EventEdit() {
-    unavailable("editing an event");
-}
-void clsDiaryCommand::EventDelete() {
-    unavailable("deleting an event");
-}
-void clsDiaryCommand::EventReschedule() {
-    unavailable("rescheduling an event");
-}
-void clsDiaryCommand::EventAddMultidayEvent() {
-    unavailable("events of several days");
-}
 void clsDiaryCommand::TaskAdd(VbDate) {
     unavailable("adding a task");
 }

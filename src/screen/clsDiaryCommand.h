@@ -2,6 +2,7 @@
 // Where a user's intent, from a menu, the toolbar, the tree or the mouse, is turned
 // into work.  The main form's handlers only dispatch to these operations.
 
+#include <cstdint>
 #include <string>
 
 #include "platform/Platform.h"
@@ -41,8 +42,31 @@ public:
     // The mouse on the views
     /// A cell of the grid clicked: its event becomes the current one.
     void MouseGridClicked(FlexGrid& grid);
+    /// A cell of the grid double-clicked: a blank cell adds an event at its date and
+    /// time, an event's cell edits it, a cell of several events asks what to do.
+    void MouseGridDbleClicked(FlexGrid& grid);
     /// A row of a list clicked.
     void MouseListClicked(ListView& list);
+    /// A list double-clicked: its row is edited, or an empty list gets a new item.
+    void MouseListDbleClicked(ListView& list);
+
+    // The events.  Each turns timerSecond off while its dialog is open, so that no
+    // exchange with the server runs in the middle of it, and draws the view after.
+    /// A new event through the editor.  An empty `time` is the grid's selected row;
+    /// a `date` not of this year (0 for none) is the view's day or the grid's
+    /// selected column.
+    void EventAdd(VbDate date, const std::string& time);
+    /// The current event in the editor.
+    void EventEdit();
+    /// The current event deleted, after the user agrees.
+    void EventDelete();
+    /// The event under the grid's selected cell (or the current one, in the list)
+    /// moved to another date and time.
+    void EventReschedule();
+    /// The current event moved to another date and time, as it stands.
+    void RescheduleCurrentEvent();
+    /// One event on many dates, through the multi-day dialog.
+    void EventAddMultidayEvent();
 
     // Printing: the present view as an HTML file in the data folder
     void CommandPrint();
@@ -74,11 +98,6 @@ public:
     // Operations that the program does not have yet.  The menu entries and tool bar
     // buttons that lead only here are disabled; the tree, whose nodes cannot be,
     // reaches them and the status bar says so.
-    void EventAdd(VbDate date, const std::string& time);
-    void EventEdit();
-    void EventDelete();
-    void EventReschedule();
-    void EventAddMultidayEvent();
     void TaskAdd(VbDate date);
     void TaskEdit();
     void TaskDelete();
@@ -99,6 +118,17 @@ private:
     void setViewLength(int days, int menuIndex);
     /// Redraws the calendar for its date, as a click on the month calendar would.
     void redrawView();
+    /// An event added from the tool bar, then the view drawn again.
+    void addEventFromToolbar();
+    /// In calendar mode, the calendar drawn again for its date from the events in memory.
+    void redrawCalendar();
+    /// The date of the grid's selected cell: the view's day, or the column's date.
+    VbDate selectedCellDate() const;
+    /// Enables the pop-up menu's entries that act on the current event when there is
+    /// one, and with `menuBarToo` those of the Appointments menu.
+    void enableEventEntries(bool menuBarToo);
+    /// An index of the event array as the 16-bit current index holds it; -1 beyond.
+    static int16_t currentIndex(long index);
     void timerOn(bool on);
     void unavailable(const std::string& what);
 

@@ -37,12 +37,21 @@ void clsDiaryCommand::NavigationClicked(const std::string& key, const std::strin
     }
 }
 
+void clsDiaryCommand::addEventFromToolbar() {
+    EventAdd(0, "");
+    // The calendar is drawn where it is on screen; another mode (the overview) is
+    // built again, so that the grid does not appear over it.
+    if (glbScreen.Mode() == "CALENDAR")
+        redrawView();
+    else
+        glbScreen.SwitchMode(glbScreen.Mode(), true);
+}
+
 void clsDiaryCommand::ToolbarClicked(const std::string& key) {
     const std::string& mode = glbScreen.Mode();
     const VbDate date = form_ != nullptr ? static_cast<VbDate>(form_->MonthView1.Value) : Today();
     if (key == "Event" || key == "Appointment") {
-        EventAdd(0, "");
-        redrawView();
+        addEventFromToolbar();
     } else if (key == "days" || key == "week" || key == "fortnight" || key == "month") {
         if (key == "days") ViewDay();
         if (key == "week") ViewWeek();
@@ -68,10 +77,7 @@ void clsDiaryCommand::ToolbarClicked(const std::string& key) {
     } else if (key == "print") {
         CommandPrint();
     } else if (key == "new") {
-        if (mode == "HOME" || mode == "CALENDAR") {
-            EventAdd(0, "");
-            redrawView();
-        }
+        if (mode == "HOME" || mode == "CALENDAR") addEventFromToolbar();
         if (mode == "TASK") TaskAdd(date);
         if (mode == "STAFF") BookMeeting(date, "");
         if (mode == "NOTE") NoteAdd();

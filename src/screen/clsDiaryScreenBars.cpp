@@ -144,7 +144,7 @@ void clsDiaryScreen::CreateToolbarButtons(bool showText) {
     for (const ButtonEntry& entry : kButtons) {
         Button& button = bar.Buttons.Add(entry.key, entry.caption, entry.style, imageOf(entry.key));
         button.ToolTipText = entry.toolTip;
-        button.Enabled = frmClientDiaryMain::HasOperation(button);
+        button.Enabled = frmClientDiaryMain::HasOperation(button, mode_);
     }
     Button& add = bar.Buttons("new");
     add.AddButtonMenu("Event", "Event");

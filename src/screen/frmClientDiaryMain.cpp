@@ -65,8 +65,10 @@ void frmClientDiaryMain::bindControls() {
     Toolbar1.onButtonMenuClick = [this](ButtonMenu& entry) { Toolbar1_ButtonMenuClick(entry); };
     MonthView1.onDateClick = [this](VbDate day) { MonthView1_DateClick(day); };
     gridDays.onClick = [this] { gridDays_Click(); };
+    gridDays.onDblClick = [this] { gridDays_DblClick(); };
     gridDays.onMouseUp = [this](int button, int shift, long x, long y) { gridDays_MouseUp(button, shift, x, y); };
     lvDiary.onItemClick = [this](ListItem& item) { lvDiary_ItemClick(item); };
+    lvDiary.onDblClick = [this] { lvDiary_DblClick(); };
     lvDiary.onColumnClick = [this](ColumnHeader& column) { lvDiary_ColumnClick(column); };
     lvCat.onItemClick = [this](ListItem& item) { lvCat_ItemClick(item); };
     imgSplitter.onMouseDown = [this](int b, int s, long x, long y) { imgSplitter_MouseDown(b, s, x, y); };
@@ -132,12 +134,20 @@ void frmClientDiaryMain::gridDays_Click() {
     glbCmd.MouseGridClicked(gridDays);
 }
 
+void frmClientDiaryMain::gridDays_DblClick() {
+    glbCmd.MouseGridDbleClicked(gridDays);
+}
+
 void frmClientDiaryMain::gridDays_MouseUp(int button, int, long, long) {
     if (button == vbRightButton && glbScreen.Mode() == "CALENDAR") PopupMenu(mnuPopupGrid);
 }
 
 void frmClientDiaryMain::lvDiary_ItemClick(ListItem&) {
     glbCmd.MouseListClicked(lvDiary);
+}
+
+void frmClientDiaryMain::lvDiary_DblClick() {
+    glbCmd.MouseListDbleClicked(lvDiary);
 }
 
 void frmClientDiaryMain::lvDiary_ColumnClick(ColumnHeader& column) {

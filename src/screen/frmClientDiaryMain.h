@@ -41,7 +41,8 @@ public:
     /// Enables or disables `entry`; an entry without operation stays disabled.
     void EnableEntry(Menu& entry, bool enabled);
     static bool HasOperation(const Menu& entry);
-    static bool HasOperation(const Button& button);
+    /// Whether the button has an operation in `mode`.
+    static bool HasOperation(const Button& button, const std::string& mode);
     static bool HasOperation(const ButtonMenu& entry);
 
     // What the user does to the controls
@@ -51,8 +52,10 @@ public:
     void Toolbar1_ButtonMenuClick(ButtonMenu& entry);
     void MonthView1_DateClick(VbDate day);
     void gridDays_Click();
+    void gridDays_DblClick();
     void gridDays_MouseUp(int button, int shift, long x, long y);
     void lvDiary_ItemClick(ListItem& item);
+    void lvDiary_DblClick();
     /// Sorts the event list by the column, turning the order round at a second click.
     void lvDiary_ColumnClick(ColumnHeader& column);
     void lvCat_ItemClick(ListItem& item);

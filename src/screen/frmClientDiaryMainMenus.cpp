@@ -16,24 +16,26 @@ namespace {
 // operation in this version of the program.
 const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
-        "mnuFileImport",      "mnuFileExport",          "mnuAppAdd",          "mnuAppEdit",
-        "mnuAppDelete",       "mnuAppReschedule",       "mnuAppRecurring",    "mnuAppPlanMeeting",
-        "mnuTaskMenu",        "mnuTaskHeadings",        "mnuNotesMenu",       "mnuSearchQuick",
-        "mnuOptScrapPaper",   "mnuToolsCalendar",       "mnuViewSetup",       "mnuOptionsDisplay",
-        "mnuOptionsListView", "mnuOptionsTaskHeadings", "mnuPingServer",      "mnuServerLoggon",
-        "mnuServerLogoff",    "mnuBetaServerEnforce",   "mnuBetaReindexTask", "mnuBetaTest(0)",
-        "mnuBetaTest(1)",     "mnuHelpAbout",           "mnuPopupGridAdd",    "mnuPopupGridEdit",
-        "mnuPopupGridDelete", "mnuPopupGridReschedule",
+        "mnuFileImport",     "mnuFileExport",        "mnuAppPlanMeeting",      "mnuTaskMenu",      "mnuTaskHeadings",
+        "mnuNotesMenu",      "mnuSearchQuick",       "mnuOptScrapPaper",       "mnuToolsCalendar", "mnuViewSetup",
+        "mnuOptionsDisplay", "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuPingServer",    "mnuServerLoggon",
+        "mnuServerLogoff",   "mnuBetaServerEnforce", "mnuBetaReindexTask",     "mnuBetaTest(0)",   "mnuBetaTest(1)",
+        "mnuHelpAbout",
     };
     return names;
 }
 
 const std::set<std::string>& keysWithoutOperation() {
     static const std::set<std::string> keys = {
-        "new",        "Find",  "delete",      "year", "showall", "current", "refresh",
-        "properties", "Event", "Appointment", "Task", "Note",    "Meeting",
+        "Find", "delete", "year", "showall", "current", "refresh", "properties", "Task", "Note", "Meeting",
     };
     return keys;
+}
+
+// The modes in which the tool bar's "new" button adds something; in the others it
+// does nothing yet and is disabled.
+bool newAddsIn(const std::string& mode) {
+    return mode == "HOME" || mode == "CALENDAR";
 }
 
 }  // namespace
@@ -44,7 +46,8 @@ bool frmClientDiaryMain::HasOperation(const Menu& entry) {
     return names.count(entry.Name() + "(" + CStr(entry.Index()) + ")") == 0;
 }
 
-bool frmClientDiaryMain::HasOperation(const Button& button) {
+bool frmClientDiaryMain::HasOperation(const Button& button, const std::string& mode) {
+    if (button.Key == "new") return newAddsIn(mode);
     return keysWithoutOperation().count(button.Key) == 0;
 }
 
@@ -126,6 +129,7 @@ void frmClientDiaryMain::bindMenus() {
     mnuPopupGridAdd.onClick = [] { glbCmd.EventAdd(0, ""); };
     mnuPopupGridEdit.onClick = [] { glbCmd.EventEdit(); };
     mnuPopupGridDelete.onClick = [] { glbCmd.EventDelete(); };
+    mnuPopupGridReschedule.onClick = [] { glbCmd.RescheduleCurrentEvent(); };
 }
 
 void frmClientDiaryMain::bindViewMenus() {

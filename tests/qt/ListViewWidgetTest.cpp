@@ -74,6 +74,14 @@ TEST_F(ListViewWidgetTest, ClicksAndDoubleClicksOnRowsReachTheHandlers) {
     test::ProcessEvents();
     EXPECT_TRUE(view->itemView()->selectionModel()->isRowSelected(0, {}));
     EXPECT_FALSE(view->itemView()->selectionModel()->isRowSelected(2, {}));
+
+    // A double click on an empty list reaches the list.
+    lv.ListItems.Clear();
+    test::ProcessEvents();
+    int listDblClicks = 0;
+    lv.onDblClick = [&] { ++listDblClicks; };
+    QTest::mouseDClick(view->itemView()->viewport(), Qt::LeftButton, {}, QPoint(20, 20));
+    EXPECT_EQ(listDblClicks, 1);
 }
 
 TEST_F(ListViewWidgetTest, TicksAndHeadingClicksReachTheModel) {

@@ -63,12 +63,12 @@ TEST_F(CommandsTest, GridOrListIsSavedAndShown) {
 
 TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
     StartProgram();
-    for (Menu* entry :
-         {&Form().mnuAppAdd, &Form().mnuAppEdit, &Form().mnuFileImport, &Form().mnuSearchQuick, &Form().mnuTaskMenu[0],
-          &Form().mnuNotesMenu[5], &Form().mnuBetaTest[0], &Form().mnuPopupGridEdit, &Form().mnuPingServer})
+    for (Menu* entry : {&Form().mnuFileImport, &Form().mnuSearchQuick, &Form().mnuTaskMenu[0], &Form().mnuNotesMenu[5],
+                        &Form().mnuBetaTest[0], &Form().mnuAppPlanMeeting, &Form().mnuPingServer})
         EXPECT_FALSE(entry->Enabled) << entry->Name();
     for (Menu* entry : {&Form().mnuFilePrint, &Form().mnuFileExit, &Form().mnuViewMode[2], &Form().mnuViewRefresh,
-                        &Form().mnuBetaTest[3], &Form().mnuHelpContents})
+                        &Form().mnuBetaTest[3], &Form().mnuHelpContents, &Form().mnuAppAdd, &Form().mnuAppRecurring,
+                        &Form().mnuPopupGridAdd})
         EXPECT_TRUE(entry->Enabled) << entry->Name();
 
     // A task list asks to enable its entries; they stay off, and a click does nothing.
@@ -76,17 +76,22 @@ TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
     const std::string panel = Panel(1);
     EXPECT_FALSE(Form().mnuTaskMenu[0].Enabled);
     Form().mnuTaskMenu[0].UserClick();
-    Form().mnuAppAdd.UserClick();
     EXPECT_EQ(Panel(1), panel);
 
+    // "new" adds only where it has something to add: events, on the overview and the calendar.
     Toolbar& bar = Form().Toolbar1;
     EXPECT_FALSE(bar.Buttons("new").Enabled);
-    EXPECT_FALSE(bar.Buttons("new").ButtonMenus(1)->Enabled);
+    EXPECT_FALSE(bar.Buttons("new").ButtonMenus(2)->Enabled);
+    EXPECT_TRUE(bar.Buttons("new").ButtonMenus(1)->Enabled);
     EXPECT_FALSE(bar.Buttons("Find").Enabled);
     EXPECT_TRUE(bar.Buttons("print").Enabled);
     bar.UserClickButton(bar.Buttons("new"));
     bar.UserClickButtonMenu(*bar.Buttons("new").ButtonMenus(2));
     EXPECT_EQ(Panel(1), panel);
+    for (const char* mode : {"HOME", "CALENDAR", "NOTE", "MESSAGE"}) {
+        glbScreen.SwitchMode(mode);
+        EXPECT_EQ(bar.Buttons("new").Enabled(), std::string(mode) == "HOME" || std::string(mode) == "CALENDAR") << mode;
+    }
 }
 
 TEST_F(CommandsTest, TreeKeysLeadIntoTheirModes) {
@@ -110,9 +115,6 @@ TEST_F(CommandsTest, TreeKeysLeadIntoTheirModes) {
     tree.UserClickNode(*tree.Nodes.Item("NOTE_ADDNEW"));
     EXPECT_EQ(glbScreen.Mode(), "NOTE");
     EXPECT_EQ(Panel(1), "Not available yet: adding a note");
-    glbCmd.NavigationClicked("", "Add New Event");
-    EXPECT_EQ(glbScreen.Mode(), "CALENDAR");
-    EXPECT_EQ(Panel(1), "Not available yet: adding an event");
 
     Form().lvView.UserClickItem(Form().lvView.ListItems(3));
     EXPECT_EQ(glbScreen.Mode(), "TASK");
@@ -146,7 +148,7 @@ TEST_F(CommandsTest, AClickedEventRowBecomesTheCurrentEvent) {
     list.UserClickItem(*list.ListItems.Item("D200406050002"));
     EXPECT_EQ(gintcur, glbEvents.SelectDiaryRecordFromID("D200406050002"));
     EXPECT_GE(gintcur, 0);
-    EXPECT_FALSE(Form().mnuAppEdit.Enabled);  // no editing in this version yet
+    EXPECT_TRUE(Form().mnuAppEdit.Enabled);
 
     glbScreen.SwitchMode("HOME");
     list.UserClickItem(list.ListItems(1));

@@ -9,6 +9,7 @@
 
 #include "TempFolder.h"
 #include "ViewTestSupport.h"
+#include "WindowTestPlatform.h"
 #include "config/clsConfigDiary.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -27,32 +28,6 @@
 using namespace orbidex;
 
 namespace {
-
-// The real platform with a fixed clock, a program folder of the test's own, and no
-// dialog that waits for a person.
-class WindowTestPlatform : public QtPlatform {
-public:
-    WindowTestPlatform(QtFormRegistry& forms, std::string folder) : QtPlatform(forms), folder_(std::move(folder)) {}
-    VbDate Now() override { return DateSerial(2004, 6, 5) + TimeSerial(9, 30, 12); }
-    std::string ProgramFolder() override { return folder_; }
-    bool AnotherInstanceRunning() override { return false; }
-    int MsgBox(const std::string& prompt, int, const std::string&) override {
-        messages.push_back(prompt);
-        return vbOK;
-    }
-    int OpenDocument(const std::string& file) override {
-        documents.push_back(file);
-        return 42;
-    }
-    bool StartProcess(const std::string&) override { return true; }
-    [[noreturn]] void EndProgram(int exitCode) override { throw ProgramEnded{exitCode}; }
-
-    std::vector<std::string> messages;
-    std::vector<std::string> documents;
-
-private:
-    std::string folder_;
-};
 
 // An event line of a monthly file: the 15 fields, each closed by 0x1F.
 std::string eventLine(const std::string& id, const std::string& date, const std::string& time,
@@ -117,7 +92,7 @@ protected:
 
     test::TempFolder folder_;
     QtFormRegistry forms_;
-    WindowTestPlatform platform_{forms_, folder_.Stored()};
+    test::WindowTestPlatform platform_{forms_, folder_.Stored()};
     QWidget* window_ = nullptr;
 };
 
@@ -205,11 +180,13 @@ TEST_F(MainWindowTest, MenusToolBarAndIcons) {
     ASSERT_NE(print, nullptr);
     EXPECT_TRUE(print->isEnabled());
     EXPECT_EQ(print->shortcut(), QKeySequence(QStringLiteral("Ctrl+P")));
-    EXPECT_FALSE(entry(QStringLiteral("&Appointments"), QStringLiteral("&Add Appointment"))->isEnabled());
+    EXPECT_FALSE(
+        entry(QStringLiteral("&Appointments"), QStringLiteral("&Plan a Meeting with other users"))->isEnabled());
     EXPECT_EQ(entry(QStringLiteral("&View"), QStringLiteral("&Refresh"))->shortcut(),
               QKeySequence(QStringLiteral("F5")));
 
-    EXPECT_FALSE(buttonAction("new")->isEnabled());
+    EXPECT_TRUE(buttonAction("new")->isEnabled());
+    EXPECT_FALSE(buttonAction("Find")->isEnabled());
     EXPECT_EQ(buttonAction("print")->text(), QStringLiteral("Print   "));
     EXPECT_EQ(buttonAction("print")->toolTip(), QStringLiteral("Print the current view"));
     // The program's own icons, not the tiles of unknown names.

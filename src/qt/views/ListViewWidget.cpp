@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QListView>
+#include <QMouseEvent>
 #include <QTreeView>
 
 #include "controls/ListView.h"
@@ -194,6 +195,19 @@ void ListViewWidget::syncFromModel() {
     selectAsModel();
     applyColors(view_, QPalette::Base, QPalette::Text);
     applyFont(view_);
+}
+
+bool ListViewWidget::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::MouseButtonDblClick || view_ == nullptr || watched != view_->viewport() || syncing() ||
+        model() == nullptr)
+        return ControlWidget::eventFilter(watched, event);
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    if (mouse->button() != Qt::LeftButton || view_->indexAt(mouse->position().toPoint()).isValid())
+        return ControlWidget::eventFilter(watched, event);
+    // The handler may open a dialog, during which this view can be rebuilt: the
+    // event is used up here and nothing of the view is touched after it.
+    list_.UserDblClick();
+    return true;
 }
 
 }  // namespace orbidex

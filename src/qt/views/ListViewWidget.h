@@ -26,6 +26,8 @@ public:
 
 protected:
     void syncFromModel() override;
+    /// A double click off the rows (on an empty list above all) is one on the list.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void build(bool report);

@@ -1,0 +1,93 @@
+// The event commands: add, edit, delete, reschedule, and one event on many dates.
+// Each keeps timerSecond off while its dialog is open and draws the view after.
+#include "config/clsConfigDiary.h"
+#include "dialogs/frmEventMultiple.h"
+#include "diary/CalendarView.h"
+#include "diary/cDiaryRecords.h"
+#include "foundation/ProgramState.h"
+#include "foundation/VbDate.h"
+#include "platform/Platform.h"
+#include "screen/clsDiaryCommand.h"
+#include "screen/clsDiaryScreen.h"
+#include "screen/frmClientDiaryMain.h"
+
+namespace orbidex {
+
+VbDate clsDiaryCommand::selectedCellDate() const {
+    const FlexGrid& grid = form_->gridDays;
+    if (glbConfig.DayWeekMonth == 1) return form_->MonthView1.Value;
+    return static_cast<VbDate>(grid.ColData(grid.Col));
+}
+
+void clsDiaryCommand::redrawCalendar() {
+    if (glbScreen.Mode() == "CALENDAR") glbEvents.DiaryTopLevelDisplay(form_->MonthView1.Value);
+}
+
+void clsDiaryCommand::EventAdd(VbDate date, const std::string& time) {
+    if (form_ == nullptr) return;
+    timerOn(false);
+    const FlexGrid& grid = form_->gridDays;
+    const std::string slotTime = time.empty() ? CalendarTimeSlots().hhmmGet(grid.Row) : time;
+    // An unset date shows by its year, so a real date of another year is replaced too.
+    if (Year(date) != Year(Now())) {
+        date = selectedCellDate();
+        if (date == 0) date = form_->MonthView1.Value;
+    }
+    glbEvents.DiaryEventAdd(date, slotTime, "");
+    redrawCalendar();
+    glbEvents.CheckDataFileAndReloadIfNeccesary();
+    timerOn(true);
+}
+
+void clsDiaryCommand::EventEdit() {
+    if (form_ == nullptr) return;
+    timerOn(false);
+    glbEvents.DiaryEventEdit();
+    redrawCalendar();
+    timerOn(true);
+}
+
+void clsDiaryCommand::EventDelete() {
+    if (form_ == nullptr) return;
+    timerOn(false);
+    glbEvents.DiaryEventDelete(false);
+    redrawCalendar();
+    timerOn(true);
+}
+
+void clsDiaryCommand::EventReschedule() {
+    if (form_ == nullptr) return;
+    if (glbConfig.GridOrList == "GRID") {
+        // The event is the one the selected cell's row and column name.
+        const FlexGrid& grid = form_->gridDays;
+        const std::string id = glbEvents.IdConvertToString(grid.ColData(grid.Col), grid.RowData(grid.Row));
+        gintcur = currentIndex(glbEvents.SelectDiaryRecordFromID(id));
+    }
+    if (gintcur < 0) {
+        platform().MsgBox("Selected an Appointment to reschedule", vbOKOnly, "");
+        return;
+    }
+    RescheduleCurrentEvent();
+}
+
+void clsDiaryCommand::RescheduleCurrentEvent() {
+    if (form_ == nullptr) return;
+    timerOn(false);
+    glbEvents.DiaryEventReschedule();
+    glbEvents.DiaryTopLevelDisplay(form_->MonthView1.Value);
+    timerOn(true);
+}
+
+void clsDiaryCommand::EventAddMultidayEvent() {
+    if (form_ == nullptr) return;
+    timerOn(false);
+    {
+        frmEventMultiple dialog;
+        dialog.Show(true);
+    }
+    glbScreen.SwitchMode("CALENDAR");
+    glbEvents.DiaryTopLevelDisplay(form_->MonthView1.Value);
+    timerOn(true);
+}
+
+}  // namespace orbidex

@@ -1,0 +1,214 @@
+// Events added, edited, deleted and moved from the main window as a user does it:
+// double clicks on the grid and the list, the menus, the pop-up menu and the tool
+// bar, with the dialogs answered by scripts and the monthly files read back.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+
+#include "MainScreenFixture.h"
+#include "config/clsConfigDiary.h"
+#include "dialogs/frmEditEvent.h"
+#include "dialogs/frmEventMultiple.h"
+#include "foundation/ProgramState.h"
+#include "foundation/VbDate.h"
+#include "foundation/VbString.h"
+#include "screen/clsDiaryCommand.h"
+#include "screen/clsDiaryScreen.h"
+
+using namespace orbidex;
+
+namespace {
+
+std::string Fields(const std::vector<std::string>& fields) {
+    std::string line;
+    for (const std::string& field : fields) line += field + "\x1F";
+    return line + "\r\n";
+}
+
+std::string Event(const std::string& id, const std::string& time, const std::string& details) {
+    return Fields(
+        {id, "20040605", "Phone", time, "30", "Call", "fred", "", "", "", "", "Normal", "", "Office", details});
+}
+
+// An event as the editor saves a new one: the user as contact, half an hour long.
+std::string Added(const std::string& id, const std::string& date, const std::string& time, const std::string& details,
+                  const std::string& remind = "") {
+    return Fields(
+        {id, date, "", time, "30", "", "fred", "", "", remind.empty() ? "" : date, remind, "", "", "", details});
+}
+
+}  // namespace
+
+class EventCommandsTest : public test::MainScreenFixture {
+protected:
+    /// Starts the program on Saturday 5 June 2004 with these events of the day.
+    void Start(const std::string& june) {
+        WriteBytes(DataPath() + "D200406.dat", june);
+        StartProgram();
+        platform_.AllowUnscriptedForms(false);
+    }
+    /// Runs `script` in the dialog of that type the next time it opens; the timer
+    /// must be off while it is open.
+    template <typename Dialog>
+    void On(const std::string& name, std::function<void(Dialog&)> script) {
+        platform_.QueueFormScript(name, [this, script](orbidex::Form& form) {
+            EXPECT_FALSE(Form().timerSecond.Enabled) << form.Name();
+            script(static_cast<Dialog&>(form));
+        });
+    }
+    void Save(const std::string& details, const std::string& when = "") {
+        On<frmEditEvent>("frmEditEvent", [details, when](frmEditEvent& form) {
+            if (!when.empty()) {
+                EXPECT_EQ(FormatDate(form.dtPickTime.Value, "yyyymmdd hhmm"), when);
+            }
+            form.txtDetails.UserEdit({TextRun{details, {}}}, static_cast<long>(details.size()));
+            form.cmdOK.UserClick();
+        });
+    }
+    void Cancel() {
+        On<frmEditEvent>("frmEditEvent", [](frmEditEvent& form) { form.cmdCancel.UserClick(); });
+    }
+    FlexGrid& Grid() { return Form().gridDays; }
+    void DoubleClick(long row, long col) {
+        Grid().UserClickCell(row, col);
+        Grid().UserDblClickCell(row, col);
+    }
+    long Shown(const std::string& dialog) const {
+        const auto shown = platform_.FormsShown();
+        return static_cast<long>(std::count(shown.begin(), shown.end(), dialog));
+    }
+    std::string File(const std::string& month) { return ReadBytes(DataPath() + "D" + month + ".dat"); }
+    void Toolbar(const std::string& key) { Form().Toolbar1.UserClickButton(Form().Toolbar1.Buttons(key)); }
+};
+
+TEST_F(EventCommandsTest, DoubleClicksOnTheGridAddAtTheCellOrAskAboutACellOfSeveralEvents) {
+    const std::string standup = Event("D200406050001", "1000", "Standup");
+    const std::string call = Event("D200406050002", "1000", "Call Jo");
+    Start(standup + call);
+    ASSERT_EQ(Grid().TextMatrix(3, 2), "Standup (1000)Call Jo");
+
+    Save("Dentist", "20040605 1030");
+    DoubleClick(4, 2);
+    EXPECT_EQ(File("200406"), standup + call + Added("D200406050003", "20040605", "1030", "Dentist"));
+    EXPECT_EQ(Grid().TextMatrix(4, 2), "Dentist");
+    EXPECT_TRUE(Form().timerSecond.Enabled);
+
+    platform_.QueueMsgBoxAnswer(vbCancel);
+    DoubleClick(3, 2);
+    EXPECT_EQ(platform_.Transcript().back().title, "Multiple Events in this Timeslot");
+    EXPECT_EQ(platform_.Transcript().back().text,
+              "There are multiple events displayed in this timeslot.\r\nTo edit them you need to view them as a "
+              "list.\r\n\r\nClick 'Yes' to view in list mode\r\nClick 'No' to add another appointment to this "
+              "timeslot\r\nClick 'Cancel' to do nothing and return to the Diary");
+    EXPECT_EQ(platform_.Transcript().back().buttons, vbYesNoCancel);
+
+    platform_.QueueMsgBoxAnswer(vbNo);
+    Save("Lunch", "20040605 1000");
+    DoubleClick(3, 2);
+    EXPECT_EQ(Grid().TextMatrix(3, 2), "Standup (1000)Call Jo (1000)Lunch");
+    EXPECT_NE(File("200406").find(Added("D200406050004", "20040605", "1000", "Lunch")), std::string::npos);
+
+    platform_.QueueMsgBoxAnswer(vbYes);
+    DoubleClick(3, 2);
+    EXPECT_EQ(glbConfig.GridOrList, "LIST");
+    EXPECT_TRUE(Form().lvDiary.Visible);
+    EXPECT_EQ(Form().lvDiary.ListItems.Count(), 4);
+    EXPECT_EQ(Shown("frmEditEvent"), 2) << "Cancel and Yes open no editor";
+}
+
+TEST_F(EventCommandsTest, NewInTheWeekOfNextYearTakesTheDateOfTheSelectedColumn) {
+    Start("");
+    Toolbar("week");
+    Form().MonthView1.UserClickDate(DateSerial(2005, 1, 3));
+    Grid().UserClickCell(3, 3);  // Tuesday 4 January, 10:00
+    Save("New year planning", "20050104 1000");
+    Toolbar("new");
+    // The week reaches back into December, so both months are saved, each file
+    // opening with an empty line.
+    EXPECT_EQ(File("200501"), "\r\n" + Added("D200501040001", "20050104", "1000", "New year planning", "1000"));
+    EXPECT_EQ(Grid().TextMatrix(3, 3), "New year planning");
+}
+
+TEST_F(EventCommandsTest, EditDeleteAndRescheduleFromTheMenusAndThePopUpMenuActOnTheSelectedCell) {
+    const std::string standup = Event("D200406050001", "0900", "Standup");
+    Start(standup + Event("D200406050002", "1000", "Dentist"));
+    std::vector<std::string> popups;
+    Form().SetPopupHandler([&popups](Menu& menu) { popups.push_back(menu.Name()); });
+
+    Grid().UserClickCell(2, 2);  // blank
+    EXPECT_FALSE(Form().mnuPopupGridEdit.Enabled);
+    EXPECT_FALSE(Form().mnuPopupGridReschedule.Enabled);
+    Form().mnuAppReschedule.UserClick();
+    EXPECT_EQ(platform_.MessageTexts().back(), "Selected an Appointment to reschedule");
+    Grid().UserClickCell(3, 2);
+    EXPECT_TRUE(Form().mnuPopupGridEdit.Enabled);
+    Grid().UserMouseUp(vbRightButton, 0, 100, 100);
+    EXPECT_EQ(popups, (std::vector<std::string>{"mnuPopupGrid"}));
+
+    On<frmEditEvent>("frmEditEvent", [](frmEditEvent& form) {
+        EXPECT_EQ(form.Caption(), "Editing event in Diary");
+        form.txtDetails.UserEdit({TextRun{"Dentist at ten", {}}}, 14);
+        form.cmdOK.UserClick();
+    });
+    Form().mnuPopupGridEdit.UserClick();
+    EXPECT_EQ(File("200406"), standup + Event("D200406050002", "1000", "Dentist at ten"));
+    EXPECT_EQ(Grid().TextMatrix(3, 2), "Dentist at ten");
+
+    platform_.QueueMsgBoxAnswer(vbYes);
+    Form().mnuAppDelete.UserClick();
+    EXPECT_EQ(platform_.Transcript().back().title, "Deleting Event from Diary");
+    EXPECT_EQ(File("200406"), standup);
+    EXPECT_EQ(Grid().TextMatrix(3, 2), "");
+    EXPECT_TRUE(Form().timerSecond.Enabled);
+}
+
+TEST_F(EventCommandsTest, TheMultiDayDialogAddsItsEventsAndTheWeekShowsThem) {
+    Start("");
+    Toolbar("week");
+    Form().MonthView1.UserClickDate(DateSerial(2004, 6, 7));
+    On<frmEventMultiple>("frmEventMultiple", [](frmEventMultiple& form) {
+        form.txtDetails.UserEdit("Sales conference", 16);
+        form.lvDateList.ListItems.Add("Tue, 08-Jun-04").Tag = "20040608";
+        form.lvDateList.ListItems.Add("Wed, 09-Jun-04").Tag = "20040609";
+        form.cmdOK.UserClick();
+    });
+    platform_.QueueMsgBoxAnswer(vbYes);
+    Form().mnuAppRecurring.UserClick();
+    EXPECT_EQ(platform_.MessageTexts().back(), "Finished adding 2 records.");
+    EXPECT_EQ(Grid().TextMatrix(1, 3), "Sales conference");
+    EXPECT_EQ(Grid().TextMatrix(1, 4), "Sales conference");
+    EXPECT_EQ(glbScreen.Mode(), "CALENDAR");
+    EXPECT_TRUE(Form().timerSecond.Enabled);
+}
+
+TEST_F(EventCommandsTest, TheListTheOverviewAndTheTreeAddEventsToo) {
+    Start("");
+    Toolbar("list");
+    Form().MonthView1.UserClickDate(DateSerial(2004, 6, 6));
+    Save("Walk");
+    Form().lvDiary.UserDblClick();  // on the empty list
+    ListView& list = Form().lvDiary;
+    ASSERT_EQ(list.ListItems.Count(), 1);
+    EXPECT_EQ(Split(File("200406"), "\x1F").at(1), "20040606");
+
+    On<frmEditEvent>("frmEditEvent", [](frmEditEvent& form) {
+        EXPECT_EQ(form.txtDetails.Text(), "Walk");
+        form.cmdCancel.UserClick();
+    });
+    list.UserClickItem(list.ListItems(1));
+    list.UserDblClickItem(list.ListItems(1));
+
+    // On the overview the page stays: the grid is not drawn over it.
+    glbScreen.SwitchMode("HOME");
+    Cancel();
+    Toolbar("new");
+    EXPECT_EQ(glbScreen.Mode(), "HOME");
+    EXPECT_TRUE(Form().web.Visible);
+    EXPECT_FALSE(Form().lvDiary.Visible);
+
+    Cancel();
+    Form().tv.UserClickNode(*Form().tv.Nodes.Item("CALENDAR_ADDNEW"));
+    EXPECT_EQ(glbScreen.Mode(), "CALENDAR");
+    EXPECT_EQ(Shown("frmEditEvent"), 4);
+}

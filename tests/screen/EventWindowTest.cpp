@@ -1,0 +1,192 @@
+// The real program in this process with its Qt windows: events added and edited by
+// double clicks on the grid and rescheduled from the menu, through the dialogs' real
+// widgets, read back from the month's file; screenshots of the main window and of
+// each dialog over it.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTextEdit>
+#include <algorithm>
+
+#include "TempFolder.h"
+#include "ViewTestSupport.h"
+#include "WindowTestPlatform.h"
+#include "dialogs/frmDateGenerator.h"
+#include "dialogs/frmEditEvent.h"
+#include "dialogs/frmEventMultiple.h"
+#include "dialogs/frmRescheduleEvent.h"
+#include "foundation/FileSystem.h"
+#include "foundation/ProgramState.h"
+#include "foundation/VbString.h"
+#include "foundation/modMain.h"
+#include "qt/QtFormRegistry.h"
+#include "qt/views/CommandButtonWidget.h"
+#include "qt/views/FlexGridWidget.h"
+#include "qt/views/FormWindow.h"
+#include "qt/views/OptionButtonWidget.h"
+#include "qt/views/RichTextBoxWidget.h"
+#include "screen/frmClientDiaryMain.h"
+
+using namespace orbidex;
+
+namespace {
+
+const char* const kBank =
+    "D200406050001\x1F"
+    "20040605\x1FOffice\x1F"
+    "1400\x1F"
+    "30\x1F"
+    "Call\x1F\x1F\x1F\x1F\x1F\x1FNormal\x1F\x1F\x1FRing the bank\x1F\r\n";
+
+template <typename View>
+View* viewOf(QWidget& window, const Control& control) {
+    return static_cast<View*>(static_cast<FormWindow&>(window).viewOf(control));
+}
+
+void press(QWidget& window, const CommandButton& button) {
+    QTest::mouseClick(viewOf<CommandButtonWidget>(window, button)->button(), Qt::LeftButton);
+}
+
+/// The lines of the month's file that hold `details`.
+std::vector<std::string> linesWith(const std::string& file, const std::string& details) {
+    std::string bytes;
+    ReadWholeFile(file, bytes);
+    std::vector<std::string> found;
+    for (const std::string& line : SplitLines(bytes))
+        if (InStr(line, "\x1F" + details + "\x1F") > 0) found.push_back(line);
+    return found;
+}
+
+}  // namespace
+
+class EventWindowTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ResetProgramState();
+        data_ = folder_.Stored() + "\\data\\";
+        MakeFolder(data_);
+        WriteWholeFile(data_ + "D200406.dat", kBank);
+        RegisterProgramWindows(forms_);
+        SetPlatform(&platform_);
+        modMain("LOCAL");
+        main_ = platform_.WindowOf(MainForm());
+        ASSERT_NE(main_, nullptr);
+        main_->resize(1100, 720);
+        test::ProcessEvents();
+    }
+    void TearDown() override {
+        ResetProgramState();
+        test::ProcessEvents();
+        SetPlatform(nullptr);
+    }
+
+    FlexGridWidget& grid() { return *viewOf<FlexGridWidget>(*main_, MainForm().gridDays); }
+    QPoint cell(long row, long col) { return grid().cellRect(row, col).center(); }
+    void doubleClick(long row, long col) {
+        QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cell(row, col));
+        QTest::mouseDClick(grid().viewport(), Qt::LeftButton, {}, cell(row, col));
+    }
+    QAction* menuEntry(const QString& caption) {
+        for (QAction* top : static_cast<FormWindow*>(main_)->menuBar()->actions())
+            for (QAction* action : top->menu() != nullptr ? top->menu()->actions() : QList<QAction*>{})
+                if (action->text() == caption) return action;
+        return nullptr;
+    }
+    /// Types into the event editor's text in place of what it holds, then saves.
+    void typeAndSave(QWidget& window, frmEditEvent& form, const QString& text) {
+        QTextEdit* edit = viewOf<RichTextBoxWidget>(window, form.txtDetails)->textEdit();
+        edit->setFocus();
+        edit->selectAll();
+        QTest::keyClicks(edit, text);
+        press(window, form.cmdOK);
+    }
+    /// The main window with `dialog` drawn over it, framed: where the dialog stands,
+    /// or, for one that leaves its place to the window manager, in the middle.
+    void screenshotOver(QWidget& dialog, const QString& name) {
+        test::ProcessEvents();
+        QPixmap shot = main_->grab();
+        const QPixmap top = dialog.grab();
+        QPoint at = dialog.mapToGlobal(QPoint(0, 0)) - main_->mapToGlobal(QPoint(0, 0));
+        if (dialog.pos().isNull()) at = QPoint(shot.width() - top.width(), shot.height() - top.height()) / 2;
+        at.setX(std::clamp(at.x(), 0, std::max(0, shot.width() - top.width())));
+        at.setY(std::clamp(at.y(), 0, std::max(0, shot.height() - top.height())));
+        QPainter painter(&shot);
+        painter.drawPixmap(at, top);
+        painter.setPen(Qt::darkGray);
+        painter.drawRect(QRect(at, top.size()).adjusted(0, 0, -1, -1));
+        painter.end();
+        QDir().mkpath(QStringLiteral("screenshots"));
+        shot.save(QStringLiteral("screenshots/") + name + QStringLiteral(".png"));
+    }
+
+    test::TempFolder folder_;
+    std::string data_;
+    QtFormRegistry forms_;
+    test::WindowTestPlatform platform_{forms_, folder_.Stored()};
+    QWidget* main_ = nullptr;
+};
+
+TEST_F(EventWindowTest, ADoubleClickOnTheGridAddsAnEventAndAnotherEditsIt) {
+    platform_.OnNextModal([this](Form& form, QWidget& window) {
+        auto& editor = static_cast<frmEditEvent&>(form);
+        EXPECT_EQ(window.windowTitle(), QStringLiteral("Adding event to Diary"));
+        EXPECT_EQ(FormatDate(editor.dtPickTime.Value, "yyyymmdd hhmm"), "20040605 1030");
+        EXPECT_FALSE(MainForm().timerSecond.Enabled);
+        screenshotOver(window, QStringLiteral("event-add-over-main"));
+        typeAndSave(window, editor, QStringLiteral("Dentist"));
+    });
+    doubleClick(4, 2);  // 10:30
+    const std::vector<std::string> added = linesWith(data_ + "D200406.dat", "Dentist");
+    ASSERT_EQ(added.size(), 1U);
+    EXPECT_EQ(Split(added[0], "\x1F").at(3), "1030");
+    EXPECT_EQ(MainForm().gridDays.TextMatrix(4, 2), "Dentist");
+    EXPECT_TRUE(MainForm().timerSecond.Enabled);
+    test::ProcessEvents();
+    test::SaveScreenshot(*main_, QStringLiteral("main-with-new-event"));
+
+    platform_.OnNextModal([this](Form& form, QWidget& window) {
+        EXPECT_EQ(window.windowTitle(), QStringLiteral("Editing event in Diary"));
+        screenshotOver(window, QStringLiteral("event-edit-over-main"));
+        typeAndSave(window, static_cast<frmEditEvent&>(form), QStringLiteral("Dentist - check-up"));
+    });
+    doubleClick(4, 2);
+    EXPECT_TRUE(linesWith(data_ + "D200406.dat", "Dentist").empty());
+    const std::vector<std::string> edited = linesWith(data_ + "D200406.dat", "Dentist - check-up");
+    ASSERT_EQ(edited.size(), 1U);
+    EXPECT_EQ(Left(edited[0], 13), Left(added[0], 13)) << "the same event";
+}
+
+TEST_F(EventWindowTest, TheRescheduleAndMultiDayDialogsOverTheMainWindow) {
+    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cell(11, 2));  // 14:00, the bank
+    platform_.OnNextModal([this](Form& form, QWidget& window) {
+        auto& dialog = static_cast<frmRescheduleEvent&>(form);
+        QTest::mouseClick(viewOf<OptionButtonWidget>(window, dialog.optMoveAhead(0))->radioButton(), Qt::LeftButton);
+        screenshotOver(window, QStringLiteral("reschedule-over-main"));
+        press(window, dialog.cmdOK);
+    });
+    ASSERT_NE(menuEntry(QStringLiteral("&Reschedule this Appointment")), nullptr);
+    menuEntry(QStringLiteral("&Reschedule this Appointment"))->trigger();
+    const std::vector<std::string> moved = linesWith(data_ + "D200406.dat", "Ring the bank");
+    ASSERT_EQ(moved.size(), 1U);
+    EXPECT_EQ(Split(moved[0], "\x1F").at(1), "20040606") << "the next day";
+
+    platform_.OnNextModal([this](Form& form, QWidget& window) {
+        auto& dialog = static_cast<frmEventMultiple&>(form);
+        platform_.OnNextModal([this](Form& inner, QWidget& generator) {
+            screenshotOver(generator, QStringLiteral("date-generator-over-main"));
+            press(generator, static_cast<frmDateGenerator&>(inner).cmdOk);
+        });
+        press(window, dialog.cmdPickDates);
+        EXPECT_EQ(dialog.lvDateList.ListItems.Count(), 4);  // 4 to 7 June
+        screenshotOver(window, QStringLiteral("multi-day-over-main"));
+        press(window, dialog.cmdCancel);
+    });
+    ASSERT_NE(menuEntry(QStringLiteral("Add &Multiple Day Event")), nullptr);
+    menuEntry(QStringLiteral("Add &Multiple Day Event"))->trigger();
+    EXPECT_TRUE(MainForm().timerSecond.Enabled);
+}
