@@ -50,15 +50,9 @@ namespace {
 
 using test::Shown;
 
-/// The table of days of the calendar's first month.
-QTableView* daysOf(MonthViewWidget& calendar) {
-    return calendar.calendars()[0]->findChild<QTableView*>();
-}
-
 /// The centre of the cell of `day` of the shown month, in the table's viewport.
 QPoint dayCentre(QTableView& days, int day) {
-    // The first rows may show the end of the month before.
-    for (int row = 3; row < days.model()->rowCount(); ++row)
+    for (int row = 1; row < days.model()->rowCount(); ++row)  // row 0 names the weekdays
         for (int col = 0; col < days.model()->columnCount(); ++col)
             if (days.model()->index(row, col).data().toInt() == day)
                 return days.visualRect(days.model()->index(row, col)).center();
@@ -236,7 +230,7 @@ TEST(DateWidgetsTest, APickedDayKeepsTheTimeAndAClickedOrDroppedOnDayIsNamed) {
     EXPECT_EQ(calendar->calendars()[0]->selectedDate(), QDate(2004, 6, 5));
     VbDate clicked = 0;
     month.onDateClick = [&](VbDate day) { clicked = day; };
-    QTableView* table = daysOf(*calendar);
+    auto* table = calendar->calendars()[0]->findChild<QTableView*>();
     ASSERT_NE(table, nullptr);
     const QPoint sixteenth = dayCentre(*table, 16);
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, sixteenth);
