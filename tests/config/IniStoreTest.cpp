@@ -64,36 +64,14 @@ TEST(IniDocumentTest, ASectionAtTheEndWithoutAFinalLineEnd) {
 }
 
 TEST(IniDocumentTest, NewKeysGoAfterTheSectionsCommentsAndBeforeItsTrailingBlankLines) {
-    const std::string text =
-        "; header\r\n"
-        "[general]\r\n"
-        "; \r\n"
-        " \r\n"
-        " \r\n"
-        ";   The Network section\r\n"
-        "[Network]\r\n"
-        "a=1\r\n"
-        "\r\n"
-        "  \r\n"
-        "[diary]\r\n";
-    std::string changed = afterSet(text, "general", "loglevel", "3");
-    changed = afterSet(changed, "network", "b", "2");
-    changed = afterSet(changed, "diary", "c", "3");
-    EXPECT_EQ(changed,
-              "; header\r\n"
-              "[general]\r\n"
-              "; \r\n"
-              " \r\n"
-              " \r\n"
-              ";   The Network section\r\n"
-              "loglevel=3\r\n"
-              "[Network]\r\n"
-              "a=1\r\n"
-              "b=2\r\n"
-              "\r\n"
-              "  \r\n"
-              "[diary]\r\n"
-              "c=3\r\n");
+    std::string text =
+        "; header\r\n[general]\r\n; \r\n \r\n; The Network section\r\n[Network]\r\na=1\r\n\r\n  \r\n[diary]\r\n";
+    text = afterSet(text, "general", "loglevel", "3");
+    text = afterSet(text, "network", "b", "2");
+    text = afterSet(text, "diary", "c", "3");
+    EXPECT_EQ(text,
+              "; header\r\n[general]\r\n; \r\n \r\n; The Network section\r\nloglevel=3\r\n"
+              "[Network]\r\na=1\r\nb=2\r\n\r\n  \r\n[diary]\r\nc=3\r\n");
 }
 
 TEST(IniDocumentTest, AChangeLeavesEveryOtherByteAsItWas) {

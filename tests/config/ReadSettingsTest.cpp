@@ -3,10 +3,6 @@
 #include <algorithm>
 
 #include "SettingsFixture.h"
-#include "config/clsConfigDiary.h"
-#include "foundation/FileSystem.h"
-#include "foundation/ProgramState.h"
-#include "foundation/VbString.h"
 
 using namespace orbidex;
 
@@ -76,19 +72,16 @@ TEST_F(ReadSettingsTest, LenientNumbersTakeTheLeadingNumberStrictOnesKeepTheirVa
 }
 
 TEST_F(ReadSettingsTest, CaptionsGoIntoTheLikeNamedFieldsWhateverTheKeysCase) {
-    WriteIni({"[ListViewHeadings]", "Date=Day", "Length=Minutes", "UrlID=Link", "JobtodoID=Job", "RemindDate=Remind on",
-              "Status=State", "[TaskHeadings]", "details=Task", "RemindTime=At"});
+    WriteIni({"[ListViewHeadings]", "Date=Day", "UrlID=Link", "JobtodoID=Job", "RemindDate=Remind on", "[TaskHeadings]",
+              "details=Task", "RemindTime=At"});
     glbConfig.ReadAllSettings();
     EXPECT_EQ(gListViewHeadings.DateEvent, "Day");
-    EXPECT_EQ(gListViewHeadings.length, "Minutes");
     EXPECT_EQ(gListViewHeadings.URL, "Link");
     EXPECT_EQ(gListViewHeadings.JobToDoID, "Job");
     EXPECT_EQ(gListViewHeadings.DateRemind, "Remind on");
-    EXPECT_EQ(gListViewHeadings.status, "State");
     EXPECT_EQ(gListViewHeadings.TimeEvent, "");
     EXPECT_EQ(gTaskHeadings.details, "Task");
     EXPECT_EQ(gTaskHeadings.TimeRemind, "At");
-    EXPECT_EQ(gTaskHeadings.DateEvent, "");
 }
 
 TEST_F(ReadSettingsTest, PathsGoToTheirGlobalsAndTheSettingsFileStaysBesideTheProgram) {
@@ -144,12 +137,4 @@ TEST_F(ReadSettingsTest, SaveAllSettingsWritesItsKeysInOrder) {
                   "[timeslots]\r\nStartTime=9\r\nStopTime=18\r\nnumTimeSlotPerHour=2\r\n"
                   "[view]\r\nShowShortCut=1\r\nShowFolders=0\r\nShowToolbarText=1\r\nShowToolbar=1\r\n"
                   "ShortCutSmallIcon=0\r\n");
-}
-
-TEST_F(ReadSettingsTest, GetValueAndSetValMeetInOneSectionWhateverItsCase) {
-    WriteIni({"[Network]", "runLocalModeOnly=0"});
-    glbConfig.fname = IniPath();
-    glbConfig.SetVal("network", "dataPath", "\\srv\\x\\");
-    EXPECT_EQ(glbConfig.GetValue("Network", "datapath"), "\\srv\\x\\");
-    EXPECT_EQ(IniText(), "[Network]\r\nrunLocalModeOnly=0\r\ndataPath=\\srv\\x\\\r\n");
 }

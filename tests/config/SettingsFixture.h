@@ -1,32 +1,39 @@
 #pragma once
 // Tests of the settings: the program fixture with the settings file's path set as the
-// start-up sets it, and helpers to write and compare settings files.
+// start-up sets it, and helpers to write and read settings files.
 
 #include <string>
 #include <vector>
 
 #include "ProgramFixture.h"
+#include "config/clsConfigDiary.h"
+#include "foundation/FileSystem.h"
+#include "foundation/ProgramState.h"
+#include "foundation/VbString.h"
 
 namespace orbidex::test {
 
 class SettingsFixture : public ProgramFixture {
 protected:
-    void SetUp() override;
-
+    void SetUp() override {
+        ProgramFixture::SetUp();
+        glbConfig.fname = gStrIniFile;
+    }
     /// data\orbidex.ini below the program folder.
     std::string IniPath() const { return Stored("data\\orbidex.ini"); }
-    /// Writes the settings file from lines, each ended by CR LF.
-    void WriteIni(const std::vector<std::string>& lines) const;
     std::string IniText() const { return ReadBytes(IniPath()); }
-    /// A file of tests/config/golden, with "{PROGRAM_FOLDER}" replaced by the
-    /// program folder.
-    std::string Golden(const std::string& name) const;
-    /// Runs ReadAllSettings and reports whether the program ended, with its code.
-    bool ReadAllSettingsEnds(int& exitCode);
+    /// Writes the settings file from lines, each ended by CR LF.
+    void WriteIni(const std::vector<std::string>& lines) const {
+        std::string text;
+        for (const std::string& line : lines) text += line + "\r\n";
+        WriteBytes(IniPath(), text);
+    }
+    /// A file of tests/config/golden, "{PROGRAM_FOLDER}" replaced by the program folder.
+    std::string Golden(const std::string& name) const {
+        std::string text;
+        EXPECT_TRUE(ReadWholeFile(ToStoredPath(std::string(ORBIDEX_CONFIG_GOLDEN_DIR) + "/" + name), text)) << name;
+        return Replace(text, "{PROGRAM_FOLDER}", folder_.Stored());
+    }
 };
-
-/// Compares two texts line by line, naming the first line that differs, then byte
-/// for byte (line ends included).
-::testing::AssertionResult SameLines(const std::string& actual, const std::string& expected);
 
 }  // namespace orbidex::test

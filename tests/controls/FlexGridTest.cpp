@@ -37,9 +37,6 @@ TEST_F(FlexGridTest, FillSingleTouchesOnlyTheSelectedCell) {
         }
     EXPECT_EQ(grid.EffectiveStyle(3, 3).backColor, 0x00F4F4F0u);
     EXPECT_EQ(grid.EffectiveStyle(0, 3).backColor, vbButtonFace);  // fixed cells keep their own default
-    // Reading the current cell gives back what was set.
-    EXPECT_EQ(grid.CellBackColor, 0x00FF00u);
-    EXPECT_EQ(grid.Text, "Dentist");
 }
 
 TEST_F(FlexGridTest, FillRepeatFillsTheSelectionAndSettingRowCollapsesIt) {

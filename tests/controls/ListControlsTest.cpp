@@ -75,8 +75,6 @@ TEST(ComboBoxTest, ASortedListPutsNewEntriesInPlaceWithoutRegardToCase) {
     for (const char* entry : {"pear", "Apple", "banana", "apple"}) combo.AddItem(entry);
     EXPECT_EQ(entries(combo), (std::vector<std::string>{"Apple", "apple", "banana", "pear"}));
     EXPECT_EQ(combo.NewIndex(), 1);
-    combo.SetItemData(1, 42);
-    EXPECT_EQ(combo.ItemData(1), 42);
 }
 
 TEST(ListBoxTest, TicksAreTheSelectionOfAListWithTickBoxes) {

@@ -13,10 +13,6 @@ namespace {
 const std::string kCall = Fields({"D200407010001", "20040701", "Phone", "1000", "30", "Call", "fred", "", "",
                                   "20040701", "0930", "Normal", "", "Office", "Call the bank"});
 
-void TypeDetails(RichTextBox& box, const std::string& text) {
-    box.UserEdit({TextRun{text, {}}}, static_cast<long>(text.size()));
-}
-
 }  // namespace
 
 class EventEditorTest : public orbidex::test::DialogFixture {
@@ -149,7 +145,7 @@ TEST_F(EventEditorTest, ADroppedFileOrAddressIsLaunchedWithAMessageForEachFailur
     form.cmdLaunch.UserClick();
     EXPECT_EQ(platform_.MessageTexts(),
               (std::vector<std::string>{"C:\\docs\\plan.doc\r\nFile not found", "No association for file extension"}));
-    EXPECT_TRUE(Logged("Failed to ShellExecute 'http://example.org/plan'"));
+    EXPECT_TRUE(LoggedMessage("Failed to ShellExecute 'http://example.org/plan'"));
 
     // The program's own files go to the text editor.
     form.txtURL.UserOLEDragDrop(DataObject{{"C:\\diary\\data\\D200407.dat"}, ""});

@@ -22,10 +22,6 @@ std::string NewEvent(const std::string& id, const std::string& date, const std::
         {id, date, "", time, "30", "", "fred", "", "", remind.empty() ? "" : date, remind, "", "", "", details});
 }
 
-void TypeDetails(RichTextBox& box, const std::string& text) {
-    box.UserEdit({TextRun{text, {}}}, static_cast<long>(text.size()));
-}
-
 }  // namespace
 
 class EventOperationsTest : public orbidex::test::DialogFixture {
@@ -56,7 +52,7 @@ TEST_F(EventOperationsTest, ABlankCellOpensTheEditorOnItsDateAndTimeAndSavesTheN
     // The editor numbers the event from its own date.
     const std::string added = NewEvent("D200406070001", "20040607", "1430", "Dentist", "1430");
     EXPECT_EQ(ReadBytes(Data("D200406.dat")), kStandup + "\r\n" + added + "\r\n");
-    EXPECT_TRUE(Logged("Edit form: cmdOK_Click - final record = " + added + "\x1F"));
+    EXPECT_TRUE(LoggedMessage("Edit form: cmdOK_Click - final record = " + added + "\x1F"));
     EXPECT_EQ(gintcur, 2) << "behind the empty old top slot";
     EXPECT_TRUE(glbEvents.IsEmptySlot(1));
 }
@@ -138,7 +134,7 @@ TEST_F(EventOperationsTest, AnEditToNextMonthMovesTheEventToThatMonthsFile) {
     EXPECT_EQ(Lines("D200406.dat"), std::vector<std::string>{kStandup});
     EXPECT_EQ(Lines("D200407.dat"),
               (std::vector<std::string>{"", EventLine("D200407030001", "20040703", "1000", "Dentist")}));
-    EXPECT_TRUE(Logged("moving an event to a different month in this version"));
+    EXPECT_TRUE(LoggedMessage("moving an event to a different month in this version"));
     EXPECT_EQ(gintcur, 1);
 }
 
@@ -257,7 +253,7 @@ TEST_F(EventOperationsTest, BulkAddingWalksTheRecordsOnceForEachMonth) {
     EXPECT_EQ(Lines("D200406.dat"), (std::vector<std::string>{kStandup, holiday("D200406070001", "20040607"),
                                                               holiday("D200406080001", "20040608")}));
     EXPECT_EQ(Lines("D200407.dat"), (std::vector<std::string>{"", holiday("D200407010001", "20040701")}));
-    EXPECT_TRUE(Logged("Bulk adding - Holiday to 20040701"));
+    EXPECT_TRUE(LoggedMessage("Bulk adding - Holiday to 20040701"));
     EXPECT_EQ(gLngWhichMonthIsLoaded, June(5)) << "the calendar's month is loaded again";
     EXPECT_EQ(platform_.Transcript().at(0).title, "Success");
     EXPECT_EQ(platform_.Transcript().at(0).text, "Finished adding 3 records.");

@@ -35,7 +35,7 @@ TEST_F(RescheduleDialogTest, OpeningAndOkChangesNothingAndKeepsTheOldReminder) {
     EXPECT_EQ(MainForm().MonthView1.Value(), DateSerial(2004, 6, 10)) << "the main window shows the day";
     form.cmdOK.UserClick();
     EXPECT_EQ(gCurrentEvent.FormatDiaryRecordAsCSV("\x1F", ""), kDentist) << "the reminder is not worked out again";
-    EXPECT_TRUE(Logged("Reschedule form: cmdOK_Click - final record = " + kDentist));
+    EXPECT_TRUE(LoggedMessage("Reschedule form: cmdOK_Click - final record = " + kDentist));
     EXPECT_EQ(ReadBytes(Data("debug.log")), "20040605,09:30:12,reschedule-OK : finalDate=2004-06-10\r\n");
 }
 

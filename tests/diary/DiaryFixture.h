@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "ProgramFixture.h"
+#include "diary/cDiaryRecords.h"
+#include "foundation/FileSystem.h"
 #include "foundation/VbDate.h"
 
 namespace orbidex::test {
@@ -20,7 +22,13 @@ protected:
         for (const std::string& line : lines) bytes += line + "\r\n";
         WriteBytes(Data(name), bytes);
     }
-    /// True when some log message contains the text.
+    std::vector<std::string> Lines(const std::string& name) const { return SplitLines(ReadBytes(Data(name))); }
+    /// Writes June's file and loads it, as the calendar does for 5 June.
+    void LoadJune(const std::vector<std::string>& lines) {
+        WriteLines("D200406.dat", lines);
+        glbEvents.LoadDiaryData(June(5));
+    }
+    /// True when the log file contains the text.
     bool Logged(const std::string& text) const {
         return ReadBytes(Stored("data\\OX_LOG.log")).find(text) != std::string::npos;
     }

@@ -10,10 +10,6 @@ using orbidex::test::EventLine;
 
 class EventArrayTest : public orbidex::test::DiaryFixture {
 protected:
-    void LoadJune(const std::vector<std::string>& lines) {
-        WriteLines("D200406.dat", lines);
-        glbEvents.LoadDiaryData(June(5));
-    }
     std::string UniqueIdIn(const std::string& name, VbDate date) {
         return glbEvents.getUniqueID(Data(name), date, kFieldDelimiter);
     }

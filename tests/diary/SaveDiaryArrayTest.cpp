@@ -20,13 +20,7 @@ const std::string kMonday = EventLine("D200406070001", "20040607", "1000", "Mond
 
 }  // namespace
 
-class SaveDiaryArrayTest : public orbidex::test::DiaryFixture {
-protected:
-    void LoadJune(const std::vector<std::string>& lines) {
-        WriteLines("D200406.dat", lines);
-        glbEvents.LoadDiaryData(June(5));
-    }
-};
+class SaveDiaryArrayTest : public orbidex::test::DiaryFixture {};
 
 TEST_F(SaveDiaryArrayTest, TheMonthIsWrittenSortedWithoutBlankLinesTracedAndHandedOver) {
     gLogLevel = 3;
@@ -97,13 +91,14 @@ TEST_F(SaveDiaryArrayTest, WithNoBlankPairAtTheFrontTheUserDecidesAndYesHoldsFor
 }
 
 TEST_F(SaveDiaryArrayTest, FiveEventsOverMoreThan250BytesEachAskBeforeOverwriting) {
-    LoadJune({kMorning, kNoon, kMonday, EventLine("D200406080001", "20040608", "0800", "Tue")});
+    std::vector<std::string> five = {kMorning, kNoon, kMonday, EventLine("D200406080001", "20040608", "0800", "Tue")};
+    LoadJune(five);
     WriteBytes(Data("D200406.dat"), std::string(1 << 20, 'x'));
     glbEvents.SaveDiaryArray(kFieldDelimiter, nullptr);
     EXPECT_TRUE(platform_.Transcript().empty()) << "four events never ask";
 
-    LoadJune({kMorning, kNoon, kMonday, EventLine("D200406080001", "20040608", "0800", "Tue"),
-              EventLine("D200406090001", "20040609", "0800", "Wed")});
+    five.push_back(EventLine("D200406090001", "20040609", "0800", "Wed"));
+    LoadJune(five);
     WriteBytes(Data("D200406.dat"), std::string(1250, 'x'));
     glbEvents.SaveDiaryArray(kFieldDelimiter, nullptr);
     EXPECT_TRUE(platform_.Transcript().empty()) << "5 x 250 = 1250 bytes is still fine";

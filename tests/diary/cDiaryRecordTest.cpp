@@ -30,17 +30,10 @@ std::vector<std::string> lineFields(const cDiaryRecord& r) {
 
 class DiaryRecordTest : public orbidex::test::DiaryFixture {};
 
-TEST_F(DiaryRecordTest, TheFifteenFieldsGoIntoTheLineInLineOrderAndReadBackEqual) {
-    cDiaryRecord written;
-    std::tie(written.ID, written.DateEvent, written.Reference, written.TimeEvent, written.length, written.Action,
-             written.ContactID, written.URL, written.JobToDoID, written.DateRemind, written.TimeRemind,
-             written.Priority, written.status, written.ActionToPerform, written.details) =
-        std::tie(kAllFields[0], kAllFields[1], kAllFields[2], kAllFields[3], kAllFields[4], kAllFields[5],
-                 kAllFields[6], kAllFields[7], kAllFields[8], kAllFields[9], kAllFields[10], kAllFields[11],
-                 kAllFields[12], kAllFields[13], kAllFields[14]);
-    const std::string line = written.FormatDiaryRecordAsCSV(kFieldDelimiter, "\r\n");
-    EXPECT_EQ(line, Fields(kAllFields) + "\r\n");
-    EXPECT_EQ(lineFields(recordOf(Fields(kAllFields))), kAllFields);
+TEST_F(DiaryRecordTest, TheFifteenFieldsReadAndWriteInLineOrder) {
+    cDiaryRecord written = recordOf(Fields(kAllFields));
+    EXPECT_EQ(lineFields(written), kAllFields);
+    EXPECT_EQ(written.FormatDiaryRecordAsCSV(kFieldDelimiter, "\r\n"), Fields(kAllFields) + "\r\n");
 
     // The long text form adds the amounts before the location.
     written.AmountDebit = Currency::FromNumber(12.5);

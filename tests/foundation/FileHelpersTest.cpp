@@ -1,6 +1,5 @@
-#include "foundation/FileHelpers.h"
-
 #include "ProgramFixture.h"
+#include "foundation/FileHelpers.h"
 #include "foundation/FileSystem.h"
 #include "foundation/clsArray.h"
 #include "foundation/clsPath.h"
@@ -21,39 +20,33 @@ TEST_F(FileHelpersTest, PathPieces) {
     EXPECT_EQ(clsPath::ExtractParent("a\\b\\c"), "a\\b\\");
 }
 
-TEST_F(FileHelpersTest, SafeFileCopyWithAMissingSourceLeavesABackupAndTheDestination) {
-    const std::string dest = Stored("data\\D200406.dat");
-    WriteBytes(dest, "old\r\n");
-    WriteBytes(dest + ".BAK", "stale backup\r\n");
-    SafeFileCopy(Stored("data\\missing.dat"), dest, false, true);
-    EXPECT_EQ(ReadBytes(dest), "old\r\n");
-    EXPECT_EQ(ReadBytes(dest + ".BAK"), "old\r\n");
-    EXPECT_EQ(LogMessages().back(), "SafeFileCopy Failed - source file doesnt exist: " + Stored("data\\missing.dat"));
-    EXPECT_TRUE(platform_.Transcript().empty());
-}
-
-TEST_F(FileHelpersTest, SafeFileCopyReplacesTheDestination) {
+TEST_F(FileHelpersTest, SafeFileCopyReplacesKeepsABackupAndReportsFailures) {
     const std::string dest = Stored("data\\D200406.dat");
     WriteBytes(dest, "old\r\n");
     WriteBytes(Stored("new.dat"), "new\r\n");
     SafeFileCopy(Stored("new.dat"), dest, true, true);
     EXPECT_EQ(ReadBytes(dest), "new\r\n");
     EXPECT_FALSE(FileExists(dest + ".BAK"));
-}
 
-TEST_F(FileHelpersTest, SafeFileCopyFailureIsLoggedAndShown) {
-    WriteBytes(Stored("new.dat"), "new\r\n");
-    const std::string dest = Stored("no-folder\\x.dat");
-    SafeFileCopy(Stored("new.dat"), dest, true, true);
-    EXPECT_EQ(LogMessages().back(), "SafeFileCopy Failed to copy " + Stored("new.dat") + " to " + dest);
-    EXPECT_EQ(ReadBytes(Stored("err.log")),
-              "20040605,09:30:12,fred,PC1,SafeFileCopy - could not copy " + Stored("new.dat") + " to " + dest + "\r\n");
+    // A missing source still leaves a backup of the destination, and no message.
+    WriteBytes(dest + ".BAK", "stale backup\r\n");
+    SafeFileCopy(Stored("data\\missing.dat"), dest, false, true);
+    EXPECT_EQ(ReadBytes(dest), "new\r\n");
+    EXPECT_EQ(ReadBytes(dest + ".BAK"), "new\r\n");
+    EXPECT_EQ(LogMessages().back(), "SafeFileCopy Failed - source file doesnt exist: " + Stored("data\\missing.dat"));
+    EXPECT_TRUE(platform_.Transcript().empty());
+
+    const std::string nowhere = Stored("no-folder\\x.dat");
+    SafeFileCopy(Stored("new.dat"), nowhere, true, true);
+    EXPECT_EQ(LogMessages().back(), "SafeFileCopy Failed to copy " + Stored("new.dat") + " to " + nowhere);
+    EXPECT_EQ(ReadBytes(Stored("err.log")), "20040605,09:30:12,fred,PC1,SafeFileCopy - could not copy " +
+                                                Stored("new.dat") + " to " + nowhere + "\r\n");
     ASSERT_EQ(platform_.Transcript().size(), 1U);
     EXPECT_EQ(platform_.Transcript()[0].title, "Error in SafeFileCopy");
-    EXPECT_EQ(platform_.Transcript()[0].text, "Error copying the file \r\n" + Stored("new.dat") + "  to \r\n" + dest);
-
-    SafeFileCopy(Stored("new.dat"), dest, true, false);
-    EXPECT_EQ(platform_.Transcript().size(), 1U);
+    EXPECT_EQ(platform_.Transcript()[0].text,
+              "Error copying the file \r\n" + Stored("new.dat") + "  to \r\n" + nowhere);
+    SafeFileCopy(Stored("new.dat"), nowhere, true, false);
+    EXPECT_EQ(platform_.Transcript().size(), 1U) << "no message when not asked for";
 }
 
 TEST_F(FileHelpersTest, IsPathWritableLeavesItsTestFile) {
@@ -62,8 +55,9 @@ TEST_F(FileHelpersTest, IsPathWritableLeavesItsTestFile) {
     folder = Stored("data");
     EXPECT_TRUE(IsPathWritable(folder));
     EXPECT_EQ(folder, Stored("data\\"));
-    EXPECT_EQ(ReadBytes(Stored("data\\orbidex.tmp")),
-              "this is a temp file to check the datapath   \r\nYou can delete it to save space (wow - 100 bytes!)\r\n\r\n");
+    EXPECT_EQ(
+        ReadBytes(Stored("data\\orbidex.tmp")),
+        "this is a temp file to check the datapath   \r\nYou can delete it to save space (wow - 100 bytes!)\r\n\r\n");
     std::string missing = Stored("nowhere");
     EXPECT_FALSE(IsPathWritable(missing));
 }

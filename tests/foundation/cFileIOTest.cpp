@@ -1,8 +1,7 @@
-#include "foundation/cFileIO.h"
-
 #include "ProgramFixture.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
+#include "foundation/cFileIO.h"
 
 using namespace orbidex;
 
@@ -68,16 +67,6 @@ TEST_F(FileIOTest, OpeningRulesAndFailures) {
     EXPECT_FALSE(folder.isOpen());
 }
 
-TEST_F(FileIOTest, WaitOnAFreeFileSucceedsAtOnce) {
-    WriteBytes(Stored("free.txt"), "x");
-    cFileIO f;
-    f.init(Stored("free.txt"));
-    gLogLevel = 1;
-    EXPECT_TRUE(f.waitUntilFileCanBeOpened(0));
-    EXPECT_EQ(LogMessages().back(), "SUCCESS - waitUntilFileCanOpened took 0 attempts for " + Stored("free.txt"));
-    EXPECT_FALSE(platform_.BusyCursor());
-}
-
 TEST_F(FileIOTest, WaitEndsWhenTheFileAppears) {
     cFileIO f;
     f.init(Stored("late.txt"));
@@ -87,13 +76,20 @@ TEST_F(FileIOTest, WaitEndsWhenTheFileAppears) {
     gLogLevel = 1;
     EXPECT_TRUE(f.waitUntilFileCanBeOpened(5));
     EXPECT_EQ(LogMessages().back(), "SUCCESS - waitUntilFileCanOpened took 3 attempts for " + Stored("late.txt"));
+    EXPECT_FALSE(platform_.BusyCursor());
+    EXPECT_TRUE(f.waitUntilFileCanBeOpened(0));
+    EXPECT_EQ(LogMessages().back(), "SUCCESS - waitUntilFileCanOpened took 0 attempts for " + Stored("late.txt"));
 }
 
-TEST_F(FileIOTest, WaitTimesOutByTheClock) {
-    platform_.SetNow(DateSerial(2004, 6, 5) + TimeSerial(10, 0, 0));
-    platform_.SetDoEventsTick(1.0);
+TEST_F(FileIOTest, WaitTimesOutByTheClockAndGivesUpAcrossMidnight) {
     cFileIO f;
     f.init(Stored("never.txt"));
+    platform_.SetNow(DateSerial(2004, 6, 5) + TimeSerial(23, 59, 58));
+    EXPECT_FALSE(f.waitUntilFileCanBeOpened(5));
+    EXPECT_EQ(platform_.DoEventsCount(), 0) << "the deadline reads as passed at once";
+
+    platform_.SetNow(DateSerial(2004, 6, 5) + TimeSerial(10, 0, 0));
+    platform_.SetDoEventsTick(1.0);
     gLogLevel = 1;
     EXPECT_FALSE(f.waitUntilFileCanBeOpened(2));
     // The deadline "10:00:02" is passed once the clock reads 10:00:03: three ticks.
@@ -101,12 +97,4 @@ TEST_F(FileIOTest, WaitTimesOutByTheClock) {
     EXPECT_EQ(LogMessages().back(),
               "FAIL - waitUntilFileCanOpened Timed out waiting for file to be opened after 3 attempts for file " +
                   Stored("never.txt"));
-}
-
-TEST_F(FileIOTest, WaitAcrossMidnightGivesUpAfterTheFirstAttempt) {
-    platform_.SetNow(DateSerial(2004, 6, 5) + TimeSerial(23, 59, 58));
-    cFileIO f;
-    f.init(Stored("never.txt"));
-    EXPECT_FALSE(f.waitUntilFileCanBeOpened(5));
-    EXPECT_EQ(platform_.DoEventsCount(), 0);
 }

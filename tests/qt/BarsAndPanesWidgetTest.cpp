@@ -28,15 +28,6 @@
 namespace orbidex {
 namespace {
 
-template <typename View, typename Model>
-std::unique_ptr<View> shown(Model& model) {
-    auto view = std::make_unique<View>(model);
-    view->resize(500, 200);
-    view->show();
-    test::ProcessEvents();
-    return view;
-}
-
 TEST(ToolbarWidgetTest, ButtonsShowTheirStateAndClicksReachTheModel) {
     Toolbar bar("Toolbar1");
     Button& add = bar.Buttons.Add("new", "New     ", tbrDropdown, "calendar");
@@ -44,7 +35,7 @@ TEST(ToolbarWidgetTest, ButtonsShowTheirStateAndClicksReachTheModel) {
     add.AddButtonMenu("Meeting");
     for (const char* key : {"days", "week", "month"}) bar.Buttons.Add(key, key, tbrButtonGroup, key);
     bar.Buttons("week").Value = tbrPressed;
-    auto view = shown<ToolbarWidget>(bar);
+    auto view = test::Shown<ToolbarWidget>(bar, QSize(500, 200));
     std::vector<std::string> clicks;
     bar.onButtonClick = [&](Button& b) { clicks.push_back(b.Key); };
     bar.onButtonMenuClick = [&](ButtonMenu& m) { clicks.push_back(m.Text); };
@@ -73,7 +64,7 @@ TEST(StatusBarWidgetTest, PanelsShowTheirTextsAndASpringTakesTheRoom) {
     StatusBar status("status");
     status.Panels(1).AutoSize = sbrSpring;
     status.Panels.Add("CALENDAR").Width = 1500;
-    auto view = shown<StatusBarWidget>(status);
+    auto view = test::Shown<StatusBarWidget>(status, QSize(500, 200));
     status.Panels(1).Text = "Connected to the Diary Server as fred";
     EXPECT_EQ(view->panelLabel(1)->text(), QStringLiteral("Connected to the Diary Server as fred"));
     EXPECT_EQ(view->panelLabel(2)->text(), QStringLiteral("CALENDAR"));
@@ -89,7 +80,7 @@ TEST(TreeViewWidgetTest, NodesShowUnderTheirParentsAndClicksReachTheModel) {
     tv.Nodes.Add("HOME", tvwChild, "CALENDAR", "My Diary", "calendar");
     tv.Nodes.Add("HOME", tvwChild, "TASK", "Tasks", "task");
     tv.Nodes.Item("HOME")->Expanded = true;
-    auto view = shown<TreeViewWidget>(tv);
+    auto view = test::Shown<TreeViewWidget>(tv, QSize(500, 200));
     QTreeWidgetItem* home = view->itemOf(tv.Nodes.Item("HOME"));
     ASSERT_NE(home, nullptr);
     EXPECT_EQ(home->childCount(), 2);
@@ -98,7 +89,8 @@ TEST(TreeViewWidgetTest, NodesShowUnderTheirParentsAndClicksReachTheModel) {
     std::string clicked;
     tv.onNodeClick = [&](Node& node) { clicked = node.Key(); };
     QTreeWidgetItem* task = view->itemOf(tv.Nodes.Item("TASK"));
-    QTest::mouseClick(view->treeWidget()->viewport(), Qt::LeftButton, {}, view->treeWidget()->visualItemRect(task).center());
+    QTest::mouseClick(view->treeWidget()->viewport(), Qt::LeftButton, {},
+                      view->treeWidget()->visualItemRect(task).center());
     EXPECT_EQ(clicked, "TASK");
     EXPECT_EQ(tv.SelectedItem(), tv.Nodes.Item("TASK"));
 
@@ -114,7 +106,7 @@ TEST(TreeViewWidgetTest, NodesShowUnderTheirParentsAndClicksReachTheModel) {
 
 TEST(TimerWidgetTest, TheClockRunsWhileTheTimerIsEnabled) {
     Timer timer("timerSecond");
-    auto view = shown<TimerWidget>(timer);
+    auto view = test::Shown<TimerWidget>(timer, QSize(500, 200));
     EXPECT_FALSE(view->clock()->isActive()) << "no interval yet";
     timer.Interval = 250;
     EXPECT_TRUE(view->clock()->isActive());
@@ -133,7 +125,7 @@ class WebBrowserWidgetTest : public test::ProgramFixture {};
 
 TEST_F(WebBrowserWidgetTest, APageOfTheProgramIsShownAndShownAnewWhenRewritten) {
     WebBrowser web("web");
-    auto view = shown<WebBrowserWidget>(web);
+    auto view = test::Shown<WebBrowserWidget>(web, QSize(500, 200));
     const std::string page = Stored("data\\D200406.html");
     WriteBytes(page, "<html><body><a name=\"day20040605\"></a><p>Dentist at 0930, Caf\xE9 Rouge</p></body></html>");
     web.Navigate2(page + "#day20040605");

@@ -8,6 +8,7 @@
 #include <QTextEdit>
 #include <memory>
 
+#include "../diary/EventLines.h"
 #include "ProgramFixture.h"
 #include "ViewTestSupport.h"
 #include "config/clsConfigDiary.h"
@@ -28,20 +29,10 @@ namespace orbidex {
 namespace {
 
 // Friday 11 June 2004, 10:30 to 11:30 at the dentist's, reminded a quarter before.
-const char* const kDentist =
-    "D200406110001\x1F"
-    "20040611\x1F"
-    "Health\x1F"
-    "1030\x1F"
-    "60\x1F"
-    "Visit\x1F"
-    "fred\x1F"
-    "C:\\docs\\dentist letter.pdf\x1F\x1F"
-    "20040611\x1F"
-    "1015\x1F"
-    "Normal\x1F\x1F"
-    "High Street Surgery\x1F"
-    "Dentist - check-up and clean, bring the insurance card\x1F";
+const std::string kDentist =
+    test::Fields({"D200406110001", "20040611", "Health", "1030", "60", "Visit", "fred", "C:\\docs\\dentist letter.pdf",
+                  "", "20040611", "1015", "Normal", "", "High Street Surgery",
+                  "Dentist - check-up and clean, bring the insurance card"});
 
 class EventDialogsWindowTest : public test::ProgramFixture {
 protected:

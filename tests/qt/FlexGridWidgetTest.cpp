@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractScrollArea>
-#include <QMimeData>
 #include <QScrollBar>
 #include <QTest>
 
@@ -60,7 +59,9 @@ TEST_F(FlexGridWidgetTest, AClickMakesTheCellCurrentBeforeMouseDownAndClicks) {
         EXPECT_GT(y, 0);
     };
     grid.onClick = [&] { events.push_back("Click"); };
-    grid.onDblClick = [&] { events.push_back("DblClick " + std::to_string(grid.MouseRow) + "," + std::to_string(grid.MouseCol)); };
+    grid.onDblClick = [&] {
+        events.push_back("DblClick " + std::to_string(grid.MouseRow) + "," + std::to_string(grid.MouseCol));
+    };
 
     QTest::mouseClick(&viewport(), Qt::LeftButton, {}, centre(5, 3));
     EXPECT_EQ(grid.Row, 5);
@@ -114,15 +115,7 @@ TEST_F(FlexGridWidgetTest, ADropOfAControlNamesTheCellUnderThePointer) {
         dropRow = grid.MouseRow;
         dropCol = grid.MouseCol;
     };
-    const ControlWidget::DragScope dragging(source);
-    QMimeData mime;
-    mime.setData(ControlWidget::controlMimeType(), "lvCat");
-    const QPoint at = centre(7, 4);
-    QDragEnterEvent enter(at, Qt::MoveAction, &mime, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&viewport(), &enter);
-    EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop(at, Qt::MoveAction, &mime, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&viewport(), &drop);
+    EXPECT_TRUE(test::DropControl(source, viewport(), centre(7, 4)));
     EXPECT_EQ(from, "lvCat");
     EXPECT_EQ(dropRow, 7);
     EXPECT_EQ(dropCol, 4);

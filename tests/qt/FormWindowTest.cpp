@@ -172,23 +172,12 @@ TEST(OutsideDropTest, FilesAndTextDroppedOnABoxReachItsHandlerInStoredForm) {
     QMimeData mime;
     const QString native = QDir::tempPath() + QStringLiteral("/notes/plan.txt");
     mime.setUrls({QUrl::fromLocalFile(native)});
-    QDragEnterEvent refused(QPoint(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(view.lineEdit(), &refused);
-    EXPECT_FALSE(refused.isAccepted()) << "no drops unless the control takes them";
-
+    EXPECT_FALSE(test::DragAndDrop(*view.lineEdit(), QPoint(5, 5), mime)) << "no drops unless the control takes them";
     txt.OLEDropMode = vbOLEDropManual;
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(view.lineEdit(), &enter);
-    EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop(QPoint(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(view.lineEdit(), &drop);
-
+    EXPECT_TRUE(test::DragAndDrop(*view.lineEdit(), QPoint(5, 5), mime));
     QMimeData text;
     text.setText(QString::fromUtf8("Caf\xC3\xA9 at 10"));
-    QDragEnterEvent textEnter(QPoint(5, 5), Qt::CopyAction, &text, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(view.lineEdit(), &textEnter);
-    QDropEvent textDrop(QPoint(5, 5), Qt::CopyAction, &text, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(view.lineEdit(), &textDrop);
+    EXPECT_TRUE(test::DragAndDrop(*view.lineEdit(), QPoint(5, 5), text));
 
     ASSERT_EQ(drops.size(), 2u);
     EXPECT_EQ(drops[0].Files, (std::vector<std::string>{ToStoredPath(native.toStdString())}));

@@ -8,7 +8,6 @@
 #include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -49,18 +48,20 @@
 namespace orbidex {
 namespace {
 
-template <typename View, typename Model>
-std::unique_ptr<View> shown(Model& model) {
-    auto view = std::make_unique<View>(model);
-    view->resize(300, 200);
-    view->show();
-    test::ProcessEvents();
-    return view;
+using test::Shown;
+
+/// The centre of the cell of `day` of the shown month, in the table's viewport.
+QPoint dayCentre(QTableView& days, int day) {
+    for (int row = 1; row < days.model()->rowCount(); ++row)  // row 0 names the weekdays
+        for (int col = 0; col < days.model()->columnCount(); ++col)
+            if (days.model()->index(row, col).data().toInt() == day)
+                return days.visualRect(days.model()->index(row, col)).center();
+    return {};
 }
 
 TEST(TextBoxWidgetTest, TypingReachesTheModelAndTheModelsTextShows) {
     TextBox txt("txtTitle");
-    auto view = shown<TextBoxWidget>(txt);
+    auto view = Shown<TextBoxWidget>(txt);
     int changes = 0;
     txt.onChange = [&] { ++changes; };
     txt.onKeyPress = [](int& key) {
@@ -81,7 +82,7 @@ TEST(TextBoxWidgetTest, TypingReachesTheModelAndTheModelsTextShows) {
 TEST(TextBoxWidgetTest, AMultiLineBoxKeepsCrLfAndReportsEnter) {
     TextBox txt("txtTalk");
     txt.MultiLine = true;
-    auto view = shown<TextBoxWidget>(txt);
+    auto view = Shown<TextBoxWidget>(txt);
     ASSERT_NE(view->plainTextEdit(), nullptr);
     std::vector<int> keys;
     txt.onKeyDown = [&](int& code, int) { keys.push_back(code); };
@@ -97,7 +98,7 @@ TEST(TextBoxWidgetTest, AMultiLineBoxKeepsCrLfAndReportsEnter) {
 
 TEST(RichTextBoxWidgetTest, EachStretchKeepsItsColourBothWays) {
     RichTextBox rtf("txtChat");
-    auto view = shown<RichTextBoxWidget>(rtf);
+    auto view = Shown<RichTextBoxWidget>(rtf);
     rtf.SelColor = vbBlue;
     rtf.SelText = "Send a Message\r\n";
     rtf.SelColor = vbRed;
@@ -127,9 +128,9 @@ public:
 
 TEST(ChoiceWidgetsTest, TickAndOptionClicksGoThroughTheModel) {
     ChoicesForm form;
-    auto check = shown<CheckBoxWidget>(form.chkRemind);
-    auto a = shown<OptionButtonWidget>(form.optA);
-    auto b = shown<OptionButtonWidget>(form.optB);
+    auto check = Shown<CheckBoxWidget>(form.chkRemind);
+    auto a = Shown<OptionButtonWidget>(form.optA);
+    auto b = Shown<OptionButtonWidget>(form.optB);
     std::vector<int> clicks;
     form.chkRemind.onClick = [&] { clicks.push_back(form.chkRemind.Value); };
 
@@ -153,7 +154,7 @@ TEST(ListWidgetsTest, ChoosingFromACombinationBoxOrAListClicks) {
     for (const char* entry : {"0 minutes", "5 minutes", "15 minutes"}) combo.AddItem(entry);
     combo.Style = vbComboDropdownList;
     combo.ListIndex = 0;
-    auto comboView = shown<ComboBoxWidget>(combo);
+    auto comboView = Shown<ComboBoxWidget>(combo);
     int clicks = 0;
     combo.onClick = [&] { ++clicks; };
     QTest::keyClick(comboView->comboBox(), Qt::Key_Down);
@@ -166,14 +167,14 @@ TEST(ListWidgetsTest, ChoosingFromACombinationBoxOrAListClicks) {
     EXPECT_EQ(comboView->comboBox()->currentText(), QStringLiteral("30 minutes"));
 
     ComboBox editable("cmbLocation");
-    auto editView = shown<ComboBoxWidget>(editable);
+    auto editView = Shown<ComboBoxWidget>(editable);
     QTest::keyClicks(editView->comboBox()->lineEdit(), "Office");
     EXPECT_EQ(editable.Text, "Office");
 
     ListBox list("lstUsers");
     list.Style = vbListBoxCheckbox;
     for (const char* user : {"fred", "mary"}) list.AddItem(user);
-    auto listView = shown<ListBoxWidget>(list);
+    auto listView = Shown<ListBoxWidget>(list);
     long ticked = -1;
     list.onItemCheck = [&](long index) { ticked = index; };
     listView->listWidget()->setCurrentRow(1);
@@ -188,7 +189,7 @@ TEST(ListWidgetsTest, ChoosingFromACombinationBoxOrAListClicks) {
 TEST(ButtonWidgetsTest, ButtonsAndLabelsClickAndDisabledOnesDoNot) {
     CommandButton cmd("cmdOK");
     cmd.Caption = "Save and Close";
-    auto button = shown<CommandButtonWidget>(cmd);
+    auto button = Shown<CommandButtonWidget>(cmd);
     int clicks = 0;
     cmd.onClick = [&] { ++clicks; };
     QTest::mouseClick(button->button(), Qt::LeftButton);
@@ -201,7 +202,7 @@ TEST(ButtonWidgetsTest, ButtonsAndLabelsClickAndDisabledOnesDoNot) {
     Label lbl("lblUsers");
     lbl.Caption = "3 of 5 Staff displayed";
     lbl.ForeColor = vbRed;
-    auto label = shown<LabelWidget>(lbl);
+    auto label = Shown<LabelWidget>(lbl);
     int labelClicks = 0;
     lbl.onClick = [&] { ++labelClicks; };
     QTest::mouseClick(label->label(), Qt::LeftButton);
@@ -210,10 +211,10 @@ TEST(ButtonWidgetsTest, ButtonsAndLabelsClickAndDisabledOnesDoNot) {
     EXPECT_EQ(label->label()->palette().color(QPalette::WindowText), QColor(Qt::red));
 }
 
-TEST(DateWidgetsTest, APickedDayKeepsTheTimeAndAClickedDayIsTheValue) {
+TEST(DateWidgetsTest, APickedDayKeepsTheTimeAndAClickedOrDroppedOnDayIsNamed) {
     DatePicker date("dtPickDate");
     date.Value = DateSerial(2004, 6, 5) + TimeSerial(15, 0, 0);
-    auto picker = shown<DatePickerWidget>(date);
+    auto picker = Shown<DatePickerWidget>(date);
     int changes = 0;
     date.onChange = [&] { ++changes; };
     EXPECT_EQ(picker->dateTimeEdit()->date(), QDate(2004, 6, 5));
@@ -224,59 +225,40 @@ TEST(DateWidgetsTest, APickedDayKeepsTheTimeAndAClickedDayIsTheValue) {
 
     MonthView month("MonthView1");
     month.Value = DateSerial(2004, 6, 5);
-    auto calendar = shown<MonthViewWidget>(month);
+    auto calendar = Shown<MonthViewWidget>(month);
     ASSERT_EQ(calendar->calendars().size(), 1u);
     EXPECT_EQ(calendar->calendars()[0]->selectedDate(), QDate(2004, 6, 5));
     VbDate clicked = 0;
     month.onDateClick = [&](VbDate day) { clicked = day; };
     auto* table = calendar->calendars()[0]->findChild<QTableView*>();
     ASSERT_NE(table, nullptr);
-    QPoint sixteenth;
-    for (int row = 3; row < table->model()->rowCount() && sixteenth.isNull(); ++row)
-        for (int col = 0; col < table->model()->columnCount(); ++col)
-            if (table->model()->index(row, col).data().toInt() == 16)
-                sixteenth = table->visualRect(table->model()->index(row, col)).center();
+    const QPoint sixteenth = dayCentre(*table, 16);
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, sixteenth);
     EXPECT_EQ(clicked, DateSerial(2004, 6, 16));
     EXPECT_EQ(month.Value, DateSerial(2004, 6, 16));
     EXPECT_EQ(calendar->dateAt(table->viewport()->mapTo(calendar.get(), sixteenth)), QDate(2004, 6, 16));
+
+    // A control dragged onto a day names the day.
+    Label grid("gridDays");
+    std::string over;
+    VbDate dropped = 0;
+    month.onDateDragOver = [&](Control& source, VbDate day) {
+        over = source.Name() + " " + FormatDate(day, "mmm-dd-yyyy");
+    };
+    month.onDateDragDrop = [&](Control&, VbDate day) { dropped = day; };
+    EXPECT_TRUE(test::DropControl(grid, *table->viewport(), dayCentre(*table, 20)));
+    EXPECT_EQ(over, "gridDays Jun-20-2004");
+    EXPECT_EQ(dropped, DateSerial(2004, 6, 20));
 
     month.MonthColumns = 2;
     ASSERT_EQ(calendar->calendars().size(), 2u);
     EXPECT_EQ(calendar->calendars()[1]->monthShown(), 7);
 }
 
-TEST(DateWidgetsTest, AControlDroppedOnADayNamesTheDay) {
-    MonthView month("MonthView1");
-    month.Value = DateSerial(2004, 6, 5);
-    auto calendar = shown<MonthViewWidget>(month);
-    Label grid("gridDays");
-    std::string over;
-    VbDate dropped = 0;
-    month.onDateDragOver = [&](Control& source, VbDate day) { over = source.Name() + " " + FormatDate(day, "mmm-dd-yyyy"); };
-    month.onDateDragDrop = [&](Control&, VbDate day) { dropped = day; };
-
-    auto* table = calendar->calendars()[0]->findChild<QTableView*>();
-    QPoint twentieth;
-    for (int row = 3; row < table->model()->rowCount() && twentieth.isNull(); ++row)
-        for (int col = 0; col < table->model()->columnCount(); ++col)
-            if (table->model()->index(row, col).data().toInt() == 20)
-                twentieth = table->visualRect(table->model()->index(row, col)).center();
-    const ControlWidget::DragScope dragging(grid);
-    QMimeData mime;
-    mime.setData(ControlWidget::controlMimeType(), "gridDays");
-    QDragEnterEvent enter(twentieth, Qt::MoveAction, &mime, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(table->viewport(), &enter);
-    QDropEvent drop(twentieth, Qt::MoveAction, &mime, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(table->viewport(), &drop);
-    EXPECT_EQ(over, "gridDays Jun-20-2004");
-    EXPECT_EQ(dropped, DateSerial(2004, 6, 20));
-}
-
 TEST(TabStripWidgetTest, AClickOnATabSelectsItInTheModel) {
     TabStrip tabs("tabEvent");
     for (const char* tab : {"General", "Reminder", "Advanced"}) tabs.Tabs.Add(tab);
-    auto view = shown<TabStripWidget>(tabs);
+    auto view = Shown<TabStripWidget>(tabs);
     long clicked = 0;
     tabs.onClick = [&] { clicked = tabs.SelectedItem()->Index(); };
     QTest::mouseClick(view->tabBar(), Qt::LeftButton, {}, view->tabBar()->tabRect(2).center());
