@@ -2,7 +2,6 @@
 // closed by the system, keeps the window's place.
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QDate>
 #include <algorithm>
 #include <filesystem>
@@ -22,22 +21,9 @@ std::string eventLine(const std::string& date, const std::string& time, const st
            "Normal" + f + f + f + details + f + "\r\n";
 }
 
-std::string messageOf(const std::string& line) {
-    const auto parts = orbidex::Split(line, ", ", 5);
-    return parts.size() == 5 ? parts[4] : line;
-}
-
 }  // namespace
 
-class MainWindowRunTest : public ::testing::Test {
-protected:
-    static void SetUpTestSuite() {
-        static int argc = 1;
-        static char name[] = "e2e_tests";
-        static char* argv[] = {name, nullptr};
-        if (QCoreApplication::instance() == nullptr) new QCoreApplication(argc, argv);
-    }
-};
+class MainWindowRunTest : public orbidex::test::ProgramRunTest {};
 
 TEST_F(MainWindowRunTest, TheWindowOpensOnTheCalendarAndKeepsItsPlace) {
     ProgramRun run(ORBIDEX_EXE);
@@ -52,9 +38,7 @@ TEST_F(MainWindowRunTest, TheWindowOpensOnTheCalendarAndKeepsItsPlace) {
 
     ASSERT_TRUE(run.Start());
     ASSERT_TRUE(run.WaitForStartUp());
-    std::vector<std::string> messages;
-    for (const std::string& line : orbidex::SplitLines(run.ReadFile("data/OX_LOG.log")))
-        messages.push_back(messageOf(line));
+    const std::vector<std::string> messages = run.LogMessages();
     const auto first = std::find(messages.begin(), messages.end(), "TOK - cmd.init");
     ASSERT_NE(first, messages.end());
     const std::vector<std::string> steps(first, std::min(first + 7, messages.end()));

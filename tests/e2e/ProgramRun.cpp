@@ -9,6 +9,9 @@
 #include <regex>
 #include <sstream>
 
+#include "foundation/FileSystem.h"
+#include "foundation/VbString.h"
+
 namespace fs = std::filesystem;
 
 namespace orbidex::test {
@@ -49,6 +52,15 @@ std::string ProgramRun::ReadFile(const std::string& relativePath) const {
     std::stringstream s;
     s << in.rdbuf();
     return s.str();
+}
+
+std::vector<std::string> ProgramRun::LogMessages() const {
+    std::vector<std::string> messages;
+    for (const std::string& line : SplitLines(ReadFile("data/OX_LOG.log"))) {
+        const std::vector<std::string> parts = Split(line, ", ", 5);
+        messages.push_back(parts.size() == 5 ? parts[4] : line);
+    }
+    return messages;
 }
 
 bool ProgramRun::Exists(const std::string& relativePath) const {
@@ -100,6 +112,13 @@ int ProgramRun::CloseAndWait(int timeoutMs) {
 int ProgramRun::WaitForExit(int timeoutMs) {
     if (!process_.waitForFinished(timeoutMs)) return -1;
     return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
+}
+
+void ProgramRunTest::SetUpTestSuite() {
+    static int argc = 1;
+    static char name[] = "e2e_tests";
+    static char* argv[] = {name, nullptr};
+    if (QCoreApplication::instance() == nullptr) new QCoreApplication(argc, argv);
 }
 
 }  // namespace orbidex::test

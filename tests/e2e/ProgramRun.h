@@ -5,7 +5,9 @@
 #include <QProcess>
 #include <QString>
 #include <functional>
+#include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 #include "TempFolder.h"
 
@@ -20,9 +22,9 @@ public:
     ~ProgramRun();
 
     bool Start();
-    /// Waits, without polling, until the file below the program folder holds `text`.
     /// Waits until the program has logged the last line of its start-up.
     bool WaitForStartUp(int timeoutMs = 20000);
+    /// Waits, without polling, until the file below the program folder holds `text`.
     bool WaitForFileContaining(const std::string& relativePath, const std::string& text, int timeoutMs = 20000);
     /// Waits, without polling, until `done` holds for the file's bytes ("" while it is missing).
     bool WaitForFile(const std::string& relativePath, const std::function<bool(const std::string&)>& done,
@@ -34,6 +36,9 @@ public:
     int WaitForExit(int timeoutMs = 20000);
 
     std::string ReadFile(const std::string& relativePath) const;
+    /// The message of each line of the program's log ("yyyy-mm-dd, hh:mm:ss,
+    /// computer, user, message").
+    std::vector<std::string> LogMessages() const;
     bool Exists(const std::string& relativePath) const;
     const std::string& Folder() const { return folder_; }
 
@@ -44,6 +49,12 @@ private:
     std::string folder_;
     std::string exe_;
     QProcess process_;
+};
+
+/// The base of the end-to-end tests: the Qt core application their waits need.
+class ProgramRunTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite();
 };
 
 }  // namespace orbidex::test

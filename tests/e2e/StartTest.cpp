@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QDate>
 #include <algorithm>
 #include <filesystem>
@@ -16,17 +15,6 @@ using orbidex::SplitLines;
 using orbidex::test::ProgramRun;
 
 namespace {
-
-// The message part of each log line: "yyyy-mm-dd, hh:mm:ss, computer, user, message".
-std::vector<std::string> logMessages(const std::string& log) {
-    std::vector<std::string> messages;
-    for (const std::string& line : SplitLines(log)) {
-        size_t at = 0;
-        for (int comma = 0; comma < 4 && at != std::string::npos; ++comma) at = line.find(", ", at == 0 ? 0 : at + 2);
-        messages.push_back(at == std::string::npos ? line : line.substr(at + 2));
-    }
-    return messages;
-}
 
 // The settings file a first start writes, for a program in `folder`.
 std::string expectedFirstSettings(const std::string& folder) {
@@ -56,22 +44,14 @@ const char* const kSettingsRead = "sect=Network   key=datapath";
 
 }  // namespace
 
-class StartTest : public ::testing::Test {
-protected:
-    static void SetUpTestSuite() {
-        static int argc = 1;
-        static char name[] = "e2e_tests";
-        static char* argv[] = {name, nullptr};
-        if (QCoreApplication::instance() == nullptr) new QCoreApplication(argc, argv);
-    }
-};
+class StartTest : public orbidex::test::ProgramRunTest {};
 
 TEST_F(StartTest, OrbidexStartsLogsAndEndsWhenClosed) {
     ProgramRun run(ORBIDEX_EXE);
     ASSERT_TRUE(run.Start());
     ASSERT_TRUE(run.WaitForFileContaining("data/OX_LOG.log", "(build "));
     EXPECT_TRUE(run.Exists("data"));
-    const auto messages = logMessages(run.ReadFile("data/OX_LOG.log"));
+    const auto messages = run.LogMessages();
     ASSERT_GE(messages.size(), 3U);
     EXPECT_EQ(messages[0], "------------------------------------------------------");
     EXPECT_EQ(messages[1], "Started orbidex ");
@@ -85,7 +65,7 @@ TEST_F(StartTest, AStartMakesThisMonthsFileAndCountsTheDataFiles) {
     ASSERT_TRUE(run.WaitForStartUp());
     const std::string month = "data/D" + QDate::currentDate().toString(QStringLiteral("yyyyMM")).toStdString() + ".dat";
     EXPECT_EQ(run.ReadFile(month), "\r\n");
-    const auto messages = logMessages(run.ReadFile("data/OX_LOG.log"));
+    const auto messages = run.LogMessages();
     const auto about = std::find(messages.begin(), messages.end(), "About to count Data Files");
     ASSERT_NE(about, messages.end());
     ASSERT_NE(about + 1, messages.end());
@@ -149,7 +129,7 @@ TEST_F(StartTest, ASecondStartShowsItsMessageAndLeavesTheDataAlone) {
     // start refused because another copy runs.
     EXPECT_EQ(second.CloseAndWait(), 1);
     EXPECT_EQ(dataFiles(first), before);
-    const auto log = logMessages(first.ReadFile("data/OX_LOG.log"));
+    const auto log = first.LogMessages();
     ASSERT_EQ(static_cast<long>(log.size()), logLines + 3);
     EXPECT_EQ(log[log.size() - 2], "Started orbidex ");
 
