@@ -25,7 +25,7 @@ constexpr long kHeight = 5000;
 // The minutes of a time of day, read back from its "hh:nn:ssPM" text.
 long minutesOfDay(VbDate time) {
     const std::string text = FormatDate(time, "hh:nn:ssPM");
-    return ParseHourText(text) * 60L + static_cast<long>(Val(Mid(text, 4, 2)));
+    return ParseHourText(text) * 60L + ValLong(Mid(text, 4, 2));
 }
 
 }  // namespace

@@ -79,7 +79,7 @@ std::string cDiaryRecords::createNextID(VbDate date, const std::string& lastID) 
         platform().MsgBox("ERROR - txtYear in getUniqueID is less than 4 digits - what the hell is going on here ?",
                           vbOKOnly, "");
     const std::string newDay = year + twoDigits(Month(date)) + twoDigits(Day(date));
-    const long sequence = oldDay == newDay ? static_cast<long>(Val(Right(lastID, 4))) + 1 : 1;
+    const long sequence = oldDay == newDay ? static_cast<long>(ValInt(Right(lastID, 4))) + 1 : 1;
     // From 10000 on the sequence has five digits and the identifier 14 characters.
     std::string digits = CStr(sequence);
     if (Len(digits) < 4) digits = StringOf(4 - Len(digits), '0') + digits;

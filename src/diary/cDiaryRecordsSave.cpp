@@ -93,7 +93,7 @@ bool cDiaryRecords::sizeGuardAllows(long upperBound) {
 }
 
 void cDiaryRecords::checkMonthOfFile(frmClientDiaryMain* mainForm) {
-    if (static_cast<int>(Val(monthOfFileName(gStrDiaryDataFile))) == Month(gLngWhichMonthIsLoaded)) return;
+    if (ValInt(monthOfFileName(gStrDiaryDataFile)) == Month(gLngWhichMonthIsLoaded)) return;
     glbLog.log("Warning - may be saving to wrong spot", 3);
     // Without a window there is no calendar to ask, and the name stays.
     if (mainForm != nullptr) gStrDiaryDataFile = GetDiaryFileNameForDate(MainForm().MonthView1.Value);

@@ -7,8 +7,8 @@
 namespace orbidex {
 
 VbDate DateFromYYYYMMDD(const std::string& text) {
-    return DateSerial(static_cast<int>(Val(Mid(text, 1, 4))), static_cast<int>(Val(Mid(text, 5, 2))),
-                      static_cast<int>(Val(Right(text, 2))));
+    return DateSerial(ValInt(Mid(text, 1, 4)), ValInt(Mid(text, 5, 2)),
+                      ValInt(Right(text, 2)));
 }
 
 std::string FormatHHMM(int hour, int minute) {
@@ -43,7 +43,7 @@ VbDate GetViewStartDate(VbDate date) {
 }
 
 int ParseHourText(const std::string& timeText) {
-    int hour = static_cast<int>(Val(Left(timeText, 2)));
+    int hour = ValInt(Left(timeText, 2));
     if (Right(timeText, 2) == "PM") hour += 12;
     return hour;
 }

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 
 namespace orbidex {
 
@@ -272,9 +273,27 @@ double RoundHalfEven(double value) {
     return std::fmod(floorValue, 2.0) == 0 ? floorValue : floorValue + 1;
 }
 
-long Int(double value) { return static_cast<long>(std::floor(value)); }
+namespace {
 
-long Fix(double value) { return static_cast<long>(std::trunc(value)); }
+template <typename T>
+T clampedWhole(double value) {
+    if (std::isnan(value)) return 0;
+    constexpr auto low = static_cast<double>(std::numeric_limits<T>::min());
+    constexpr auto high = static_cast<double>(std::numeric_limits<T>::max());
+    if (value <= low) return std::numeric_limits<T>::min();
+    if (value >= high) return std::numeric_limits<T>::max();
+    return static_cast<T>(value);
+}
+
+}  // namespace
+
+long Int(double value) { return clampedWhole<long>(std::floor(value)); }
+
+long Fix(double value) { return clampedWhole<long>(std::trunc(value)); }
+
+long ValLong(std::string_view s) { return clampedWhole<long>(std::trunc(Val(s))); }
+
+int ValInt(std::string_view s) { return clampedWhole<int>(std::trunc(Val(s))); }
 
 std::string Hex(long value) {
     char buf[32];

@@ -50,6 +50,11 @@ std::string Join(const std::vector<std::string>& parts, std::string_view delimit
 /// are skipped; "&H" and "&O" prefixes read hexadecimal and octal; no number is 0.
 double Val(std::string_view s);
 
+/// Val's number as a whole number, cut towards zero and held within the type's range
+/// (a text such as "9e20" would not fit).
+long ValLong(std::string_view s);
+int ValInt(std::string_view s);
+
 /// The strict number parse (CLng of a text): decimal with optional sign, blanks
 /// around, a decimal part rounded half to even, or "&H"/"&O" forms.  False for
 /// anything else, the empty text included.
@@ -67,7 +72,8 @@ inline std::string CStr(bool value) { return value ? "True" : "False"; }
 
 /// Round half to even, as CInt, CLng and Round do.
 double RoundHalfEven(double value);
-/// VB's Int (towards minus infinity) and Fix (towards zero).
+/// VB's Int (towards minus infinity) and Fix (towards zero), held within the range of
+/// a long.
 long Int(double value);
 long Fix(double value);
 

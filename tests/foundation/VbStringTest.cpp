@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "foundation/VbString.h"
 
 using namespace orbidex;
@@ -40,6 +42,10 @@ TEST(VbString, ValReadsTheLeadingNumberAsVbDoes) {
     EXPECT_EQ(Val("&HFFFF"), -1);
     EXPECT_EQ(Val("&O17"), 15);
     EXPECT_EQ(Val("1e"), 1);
+    // As whole numbers, held within their type.
+    EXPECT_EQ(ValInt("-7.9"), -7);
+    EXPECT_EQ(ValInt("9e20"), std::numeric_limits<int>::max());
+    EXPECT_EQ(ValLong("-9d99"), std::numeric_limits<long>::min());
 }
 
 TEST(VbString, StrictParseRefusesWhatIsNoNumber) {
