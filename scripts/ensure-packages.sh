@@ -3,7 +3,7 @@
 ORBIDEX_PACKAGES=(
   cmake make g++ clang libclang-rt-14-dev
   libgtest-dev libgmock-dev libbenchmark-dev
-  qt6-base-dev fonts-dejavu-core
+  qt6-base-dev fonts-dejavu-core ccache
 )
 
 ensure_packages() {
