@@ -61,9 +61,9 @@ void clsDiaryCommand::EventReschedule() {
         // The event is the one the selected cell's row and column name.
         const FlexGrid& grid = form_->gridDays;
         const std::string id = glbEvents.IdConvertToString(grid.ColData(grid.Col), grid.RowData(grid.Row));
-        gintcur = currentIndex(glbEvents.SelectDiaryRecordFromID(id));
+        gintcur = AsCurrentIndex(glbEvents.SelectDiaryRecordFromID(id));
     }
-    if (gintcur < 0) {
+    if (!glbEvents.HasSelectedEvent()) {
         platform().MsgBox("Selected an Appointment to reschedule", vbOKOnly, "");
         return;
     }

@@ -36,12 +36,14 @@ using namespace orbidex;
 
 namespace {
 
-const char* const kBank =
-    "D200406050001\x1F"
-    "20040605\x1FOffice\x1F"
-    "1400\x1F"
-    "30\x1F"
-    "Call\x1F\x1F\x1F\x1F\x1F\x1FNormal\x1F\x1F\x1FRing the bank\x1F\r\n";
+// An event line as the bank's: an office call of half an hour.
+std::string Line(const std::string& id, const std::string& date, const std::string& time, const std::string& details) {
+    const std::string f = "\x1F";
+    return id + f + date + f + "Office" + f + time + f + "30" + f + "Call" + f + f + f + f + f + f + "Normal" + f + f +
+           f + details + f + "\r\n";
+}
+
+const std::string kBank = Line("D200406050001", "20040605", "1400", "Ring the bank");
 
 template <typename View>
 View* viewOf(QWidget& window, const Control& control) {
@@ -70,7 +72,7 @@ protected:
         ResetProgramState();
         data_ = folder_.Stored() + "\\data\\";
         MakeFolder(data_);
-        WriteWholeFile(data_ + "D200406.dat", kBank);
+        WriteWholeFile(data_ + "D200406.dat", June());
         RegisterProgramWindows(forms_);
         SetPlatform(&platform_);
         modMain("LOCAL");
@@ -85,6 +87,8 @@ protected:
         SetPlatform(nullptr);
     }
 
+    /// The month's file the program starts on.
+    virtual std::string June() const { return kBank; }
     FlexGridWidget& grid() { return *viewOf<FlexGridWidget>(*main_, MainForm().gridDays); }
     QPoint cell(long row, long col) { return grid().cellRect(row, col).center(); }
     void doubleClick(long row, long col) {
@@ -189,4 +193,62 @@ TEST_F(EventWindowTest, TheRescheduleAndMultiDayDialogsOverTheMainWindow) {
     ASSERT_NE(menuEntry(QStringLiteral("Add &Multiple Day Event")), nullptr);
     menuEntry(QStringLiteral("Add &Multiple Day Event"))->trigger();
     EXPECT_TRUE(MainForm().timerSecond.Enabled);
+}
+
+// A month's file in the order its lines came: a new month's blank line, then the
+// events appended to it.  The first save sorts it, after which the program must
+// still act on the events the user points at.
+class SavedMonthWindowTest : public EventWindowTest {
+protected:
+    std::string June() const override { return "\r\n" + kLunch + kStandup + kBank; }
+    /// Double-clicks the stand-up, changes it and saves: the file is sorted.
+    void editTheStandup() {
+        platform_.OnNextModal([this](Form& form, QWidget& window) {
+            typeAndSave(window, static_cast<frmEditEvent&>(form), QStringLiteral("Standup at nine"));
+        });
+        doubleClick(1, 2);  // 09:00
+        ASSERT_EQ(june(), kBank + kStandupAtNine + kLunch);
+    }
+    /// The month's files in the data folder, each with its network form beside it.
+    std::vector<std::string> monthFiles() const {
+        std::vector<std::string> names = ListFolder(data_ + "D*.dat*", false);
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+    std::string june() const {
+        std::string bytes;
+        ReadWholeFile(data_ + "D200406.dat", bytes);
+        return bytes;
+    }
+
+    static inline const std::string kStandup = Line("D200406050002", "20040605", "0900", "Standup");
+    static inline const std::string kStandupAtNine = Line("D200406050002", "20040605", "0900", "Standup at nine");
+    static inline const std::string kLunch = Line("D200406050003", "20040605", "1200", "Lunch");
+};
+
+TEST_F(SavedMonthWindowTest, DoubleClickingAnotherEventAfterASaveEditsThatEvent) {
+    editTheStandup();
+    platform_.OnNextModal([this](Form& form, QWidget& window) {
+        auto& editor = static_cast<frmEditEvent&>(form);
+        EXPECT_EQ(editor.txtDetails.Text(), "Lunch");
+        typeAndSave(window, editor, QStringLiteral("Lunch with Ann"));
+    });
+    doubleClick(7, 2);  // 12:00
+    EXPECT_EQ(june(), kBank + kStandupAtNine + Line("D200406050003", "20040605", "1200", "Lunch with Ann"));
+    EXPECT_EQ(monthFiles(), (std::vector<std::string>{"D200406.dat", "D200406.dat_NET"}));
+}
+
+TEST_F(SavedMonthWindowTest, ReschedulingTheEventClickedAfterASaveMovesThatEvent) {
+    editTheStandup();
+    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cell(11, 2));  // 14:00, the bank
+    platform_.OnNextModal([this](Form& form, QWidget& window) {
+        auto& dialog = static_cast<frmRescheduleEvent&>(form);
+        EXPECT_EQ(dialog.txtDetails.Text(), "Ring the bank");
+        EXPECT_EQ(FormatDate(dialog.dtPickDate.Value, "yyyymmdd"), "20040605");
+        QTest::mouseClick(viewOf<OptionButtonWidget>(window, dialog.optMoveAhead(0))->radioButton(), Qt::LeftButton);
+        press(window, dialog.cmdOK);
+    });
+    menuEntry(QStringLiteral("&Reschedule this Appointment"))->trigger();
+    EXPECT_EQ(june(), kStandupAtNine + kLunch + Line("D200406060001", "20040606", "1400", "Ring the bank"));
+    EXPECT_EQ(monthFiles(), (std::vector<std::string>{"D200406.dat", "D200406.dat_NET"}));
 }
