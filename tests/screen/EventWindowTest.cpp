@@ -30,6 +30,7 @@
 #include "qt/views/FormWindow.h"
 #include "qt/views/OptionButtonWidget.h"
 #include "qt/views/RichTextBoxWidget.h"
+#include "qt/views/ToolbarWidget.h"
 #include "screen/frmClientDiaryMain.h"
 
 using namespace orbidex;
@@ -193,6 +194,47 @@ TEST_F(EventWindowTest, TheRescheduleAndMultiDayDialogsOverTheMainWindow) {
     ASSERT_NE(menuEntry(QStringLiteral("Add &Multiple Day Event")), nullptr);
     menuEntry(QStringLiteral("Add &Multiple Day Event"))->trigger();
     EXPECT_TRUE(MainForm().timerSecond.Enabled);
+}
+
+TEST_F(EventWindowTest, KeysInTheGridSelectEditAndDeleteAsTheMouseAndTheMenusDo) {
+    QWidget* keys = grid().area();
+    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cell(10, 2));  // 13:30, blank
+    QTest::keyClick(keys, Qt::Key_Down);
+    FlexGrid& model = MainForm().gridDays;
+    EXPECT_EQ(model.Row(), 11);
+    EXPECT_EQ(gintcur, 0) << "the bank at 14:00";
+    EXPECT_EQ(MainForm().status.Panels(1).Text(), "At 1400 on 20040605 spent 30 minutes on ''Ring the bank'");
+    EXPECT_TRUE(MainForm().mnuPopupGridDelete.Enabled);
+
+    platform_.OnNextModal([this](Form& form, QWidget& window) {
+        auto& editor = static_cast<frmEditEvent&>(form);
+        EXPECT_EQ(editor.txtDetails.Text(), "Ring the bank");
+        typeAndSave(window, editor, QStringLiteral("Ring the bank manager"));
+    });
+    QTest::keyClick(keys, Qt::Key_Return);
+    EXPECT_EQ(linesWith(data_ + "D200406.dat", "Ring the bank manager").size(), 1U);
+
+    QTest::keyClick(keys, Qt::Key_Up);
+    EXPECT_EQ(MainForm().status.Panels(1).Text(), "Blank Timeslot on 5-Jun-2004 at 1330");
+    QTest::keyClick(keys, Qt::Key_Down);
+    platform_.answers.push_back(vbNo);
+    QTest::keyClick(keys, Qt::Key_Delete);
+    EXPECT_EQ(platform_.messages.back(),
+              "Deleting event on 20040605 at 1400 details :Ring the bank manager\r\n\r\nDo you want to delete this "
+              "event");
+    EXPECT_EQ(linesWith(data_ + "D200406.dat", "Ring the bank manager").size(), 1U) << "No keeps it";
+
+    // The tool bar's Delete button asks the same, and Yes deletes.
+    auto* bar = static_cast<ToolbarWidget*>(static_cast<FormWindow*>(main_)->viewOf(MainForm().Toolbar1));
+    QAction* remove = bar->actionOf(MainForm().Toolbar1.Buttons.Item("delete"));
+    ASSERT_TRUE(remove->isEnabled());
+    platform_.answers.push_back(vbYes);
+    remove->trigger();
+    EXPECT_EQ(platform_.messages.size(), 2U);
+    EXPECT_EQ(platform_.messages.back(), platform_.messages.front());
+    EXPECT_TRUE(linesWith(data_ + "D200406.dat", "Ring the bank manager").empty());
+    QTest::keyClick(keys, Qt::Key_Delete);
+    EXPECT_EQ(platform_.messages.back(), "Select a record to be deleted first");
 }
 
 // A month's file in the order its lines came: a new month's blank line, then the
