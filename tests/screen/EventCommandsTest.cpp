@@ -165,6 +165,31 @@ TEST_F(EventCommandsTest, EditDeleteAndRescheduleFromTheMenusAndThePopUpMenuActO
     EXPECT_TRUE(Form().timerSecond.Enabled);
 }
 
+TEST_F(EventCommandsTest, InTheWeekTheRescheduleTakesTheEventOfTheSelectedCell) {
+    // Monday's and Tuesday's calls share the 10:00 row; Tuesday's is placed last.
+    const std::string monday = Fields({"D200406070001", "20040607", "Phone", "1000", "30", "Call", "fred", "", "", "",
+                                       "", "Normal", "", "Office", "Monday call"});
+    const std::string tuesday = Fields({"D200406080001", "20040608", "Phone", "1000", "30", "Call", "fred", "", "", "",
+                                        "", "Normal", "", "Office", "Tuesday call"});
+    Start(monday + tuesday);
+    Toolbar("week");
+    Form().MonthView1.UserClickDate(DateSerial(2004, 6, 7));
+    ASSERT_EQ(Grid().TextMatrix(3, 2), "Monday call");
+    On<frmRescheduleEvent>("frmRescheduleEvent", [](frmRescheduleEvent& form) {
+        EXPECT_EQ(form.txtDetails.Text(), "Monday call");
+        form.cmdCancel.UserClick();
+    });
+    Grid().UserClickCell(3, 2);
+    Form().mnuAppReschedule.UserClick();
+    EXPECT_EQ(Shown("frmRescheduleEvent"), 1);
+
+    Grid().UserClickCell(3, 4);  // Wednesday 10:00, blank
+    Form().mnuAppReschedule.UserClick();
+    EXPECT_EQ(platform_.MessageTexts().back(), "Selected an Appointment to reschedule");
+    EXPECT_EQ(Shown("frmRescheduleEvent"), 1);
+    EXPECT_EQ(File("200406"), monday + tuesday);
+}
+
 TEST_F(EventCommandsTest, TheMultiDayDialogAddsItsEventsAndTheWeekShowsThem) {
     Start("");
     Toolbar("week");
