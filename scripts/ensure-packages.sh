@@ -4,6 +4,7 @@ ORBIDEX_PACKAGES=(
   cmake make g++ clang libclang-rt-14-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   qt6-base-dev fonts-dejavu-core ccache
+  libqt6svg6
 )
 
 ensure_packages() {

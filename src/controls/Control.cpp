@@ -13,6 +13,16 @@ Control::~Control() {
     if (form_ != nullptr) form_->UnregisterControl(*this);
 }
 
+void Control::SetFocus() {
+    if (form_ != nullptr) form_->SetActiveControl(this);
+    notifyView(ViewNotice::Focus);
+}
+
+void Control::UserGotFocus() {
+    if (form_ != nullptr) form_->SetActiveControl(this);
+    Raise(onGotFocus);
+}
+
 void Control::SetContainer(Control* container) {
     if (container == this) return;
     container_ = container;

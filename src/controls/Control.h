@@ -89,7 +89,8 @@ public:
 
     /// Places the control; a negative width or height keeps the one it has.
     void Move(long left, long top, long width = -1, long height = -1);
-    void SetFocus() { notifyView(ViewNotice::Focus); }
+    /// Gives the control the focus; its form keeps it as the active control.
+    void SetFocus();
     /// vbBeginDrag starts dragging this control (the view follows the mouse);
     /// vbEndDrag and vbCancelDrag end it.
     void Drag(int action = vbBeginDrag);
@@ -123,7 +124,7 @@ public:
     void UserMouseDown(int button, int shift, long x, long y) { Raise(onMouseDown, button, shift, x, y); }
     void UserMouseUp(int button, int shift, long x, long y) { Raise(onMouseUp, button, shift, x, y); }
     void UserMouseMove(int button, int shift, long x, long y) { Raise(onMouseMove, button, shift, x, y); }
-    void UserGotFocus() { Raise(onGotFocus); }
+    void UserGotFocus();
     void UserLostFocus() { Raise(onLostFocus); }
     virtual void UserDragOver(Control& source, long x, long y, int state) { Raise(onDragOver, source, x, y, state); }
     /// A drop of `source` here; the drag of the source ends.

@@ -85,6 +85,7 @@ void Form::RegisterControl(Control& control) {
 
 void Form::UnregisterControl(Control& control) {
     std::erase(controls_, &control);
+    if (activeControl_ == &control) activeControl_ = nullptr;
     notifyView(FormNotice::ControlsChanged);
 }
 

@@ -92,6 +92,10 @@ public:
     // Controls and menus
     /// The form's controls and menus in the order they were made.
     const std::vector<Control*>& Controls() const { return controls_; }
+    /// The control that got the focus last, from the program or the user; null for
+    /// none.  The window gives it the focus when it is shown.
+    Control* ActiveControl() const { return activeControl_; }
+    void SetActiveControl(Control* control) { activeControl_ = control; }
     /// The control of that name (the first element of a control array), or null.
     Control* FindControl(const std::string& name) const;
     /// Called by the controls themselves.
@@ -126,6 +130,7 @@ private:
     bool unloading_ = false;
     bool showing_ = false;
     std::vector<Control*> controls_;
+    Control* activeControl_ = nullptr;
     std::function<void(FormNotice)> view_;
     const void* viewOwner_ = nullptr;
     std::function<void(Menu&)> popup_;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string>
 
+#include "foundation/DateHelpers.h"
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 
@@ -15,12 +16,20 @@ inline int DatePartOfText(const std::string& text) {
     return static_cast<int>(std::clamp(Val(text), -100000.0, 100000.0));
 }
 
+/// The first and the last day a picker holds: those of the diary's years.
+inline VbDate FirstPickerDate() {
+    return DateSerial(kFirstDiaryYear, 1, 1);
+}
+inline VbDate LastPickerDate() {
+    return DateSerial(kLastDiaryYear, 12, 31);
+}
+
 /// The date of a "yyyymmdd" text: characters 1 to 4, 5 and 6, 7 and 8.  A broken
-/// text gives a date a picker can hold, from the year 100 to the year 9999.
+/// text gives the nearest date a picker can hold.
 inline VbDate DateOfText(const std::string& yyyymmdd) {
     const VbDate date = DateSerial(DatePartOfText(Mid(yyyymmdd, 1, 4)), DatePartOfText(Mid(yyyymmdd, 5, 2)),
                                    DatePartOfText(Mid(yyyymmdd, 7, 2)));
-    return std::clamp(date, DateSerial(100, 1, 1), DateSerial(9999, 12, 31));
+    return std::clamp(date, FirstPickerDate(), LastPickerDate());
 }
 
 /// The time of day of an "hhmm" text: the hour from its first two characters, the

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "dialogs/DialogDates.h"
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 
@@ -18,12 +19,8 @@ constexpr long kQuarterly = 90;
 // Days in each unit of cmbLengthUnit after the first (days).
 constexpr double kUnitDays[] = {1, 7, 14, 30.35, 91, 364.25};
 
-// The dates a picker can hold.
-const VbDate kFirstDate = DateSerial(100, 1, 1);
-const VbDate kLastDate = DateSerial(9999, 12, 31);
-
 long roundedDay(double value) {
-    return static_cast<long>(RoundHalfEven(std::clamp(value, kFirstDate, kLastDate)));
+    return static_cast<long>(RoundHalfEven(std::clamp(value, FirstPickerDate(), LastPickerDate())));
 }
 
 }  // namespace

@@ -458,6 +458,7 @@ void frmEditEvent::cmdOK_Click() {
 
 void frmEditEvent::caretToEndOfDetails() {
     txtDetails.SelStart = Len(txtDetails.Text());
+    txtDetails.SetFocus();
 }
 
 }  // namespace orbidex

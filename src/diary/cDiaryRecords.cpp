@@ -13,6 +13,10 @@ namespace orbidex {
 
 cDiaryRecords glbEvents;
 
+int16_t AsCurrentIndex(long index) {
+    return index < 0 || index > INT16_MAX ? int16_t{-1} : static_cast<int16_t>(index);
+}
+
 cDiaryRecord& cDiaryRecords::events(long index) {
     if (index < 0) platform().MsgBox("Invalid event index passed to glbEvents:events", vbOKOnly, "");
     if (IsEmptySlot(index)) {
@@ -40,6 +44,20 @@ long cDiaryRecords::SelectDiaryRecordFromID(const std::string& id) {
     for (long i = 0; i <= totEvents(); ++i)
         if (events(i).ID == id) return i;
     return -1;
+}
+
+long cDiaryRecords::SelectDiaryRecordFromIDInMonth(const std::string& id, const std::string& yyyymm) const {
+    if (id.empty()) return -1;
+    for (long i = 0; i <= totEvents(); ++i) {
+        if (IsEmptySlot(i)) continue;
+        const cDiaryRecord& record = *slots_[static_cast<size_t>(i)];
+        if (record.ID == id && Left(record.DateEvent, 6) == yyyymm) return i;
+    }
+    return -1;
+}
+
+bool cDiaryRecords::HasSelectedEvent() const {
+    return !IsEmptySlot(gintcur) && !slots_[static_cast<size_t>(gintcur)]->ID.empty();
 }
 
 long cDiaryRecords::SelectDiaryRecordIndex(VbDate date, const std::string& time, const std::string& details) {
@@ -71,6 +89,10 @@ void cDiaryRecords::DeleteDiaryEventFromArray(long index) {
         const cDiaryRecord* next = IsEmptySlot(i + 1) ? nullptr : &events(i + 1);
         events(i).AssignRecord(next);
     }
+    if (gintcur == index)
+        gintcur = -1;
+    else if (gintcur > index)
+        --gintcur;
     const long remaining = loadedCount() - 1;
     setTotalEvents(remaining);
     SetUpperBound(remaining);

@@ -39,10 +39,12 @@ public:
     /// Asks for a folder when `path` cannot be written; a usable answer is stored in
     /// the settings for the next start.  The running program keeps its path.
     void ValidateDataPath(std::string path);
-    /// The month's file name; a missing file is created holding one line end.
+    /// The month's file name; a missing file of a month of the diary's years is
+    /// created holding one line end.
     std::string GetDiaryFileNameForDate(VbDate date);
     /// Loads the month of `date` whole, and the neighbouring month when the view of
-    /// 7 or 14 days crosses a month end.
+    /// 7 or 14 days crosses a month end.  The selected event stays selected, found
+    /// again by its ID; none when it is no longer loaded.
     void LoadDiaryData(VbDate date);
     /// Adds the events of the month of `date` behind those loaded.
     void LoadExtraDiaryData(VbDate date);
@@ -100,6 +102,12 @@ public:
 
     /// The first index with this ID, or -1.
     long SelectDiaryRecordFromID(const std::string& id);
+    /// The index of the loaded event with this ID whose date lies in the month
+    /// `yyyymm`, or -1 (also for an empty ID): an ID is unique within its month's
+    /// file only, and two months may be loaded.
+    long SelectDiaryRecordFromIDInMonth(const std::string& id, const std::string& yyyymm) const;
+    /// True when gintcur names a loaded event: not a blank record, not an empty slot.
+    bool HasSelectedEvent() const;
     /// The event of that date and details, at that time if there is one; or -1.
     long SelectDiaryRecordIndex(VbDate date, const std::string& time, const std::string& details);
     /// Appends an event from elsewhere to the file of its month under a new ID,
@@ -109,6 +117,7 @@ public:
     /// True when a line of gStrDiaryDataFile holds the three texts as fields.
     bool DoesDiaryRecordAlreadyExist(const std::string& date, const std::string& time, const std::string& details);
     /// Shifts the events above `index` down one place, shortens the array and saves.
+    /// The selection stays on its event, and is none when that is the one taken out.
     void DeleteDiaryEventFromArray(long index);
     /// Kept for its callers: the array stays in file order.
     void SortDiaryArray();
@@ -241,5 +250,8 @@ private:
 };
 
 extern cDiaryRecords glbEvents;
+
+/// An index as gintcur holds it: -1 for none and for one beyond its 16 bits.
+int16_t AsCurrentIndex(long index);
 
 }  // namespace orbidex

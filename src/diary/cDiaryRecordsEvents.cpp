@@ -97,11 +97,12 @@ void cDiaryRecords::DiaryEventAdd(VbDate date, const std::string& time, const st
 }
 
 void cDiaryRecords::DiaryEventEdit() {
-    if (gintcur < 0) {
+    if (gintcur >= 0) CheckDataFileAndReloadIfNeccesary();
+    // The reload finds the chosen event again; one that is gone is no event to edit.
+    if (!HasSelectedEvent()) {
         platform().MsgBox("I dont know which event you selected", vbOKOnly, "");
         return;
     }
-    CheckDataFileAndReloadIfNeccesary();
     glbConfig.dialogEditing = true;
     glbConfig.dialogCancelled = false;
     const double oldMonth = Val(Mid(events(gintcur).DateEvent, 5, 2));
@@ -131,10 +132,8 @@ void cDiaryRecords::DiaryEventEdit() {
             AddDiaryRecord(moved, true);
             InitDiary(&MainForm(), "");
             LoadDiaryData(DateFromYYYYMMDD(oldRecord.DateEvent));
-            const int16_t selected = gintcur;
-            gintcur = static_cast<int16_t>(SelectDiaryRecordFromID(oldRecord.ID));
+            gintcur = AsCurrentIndex(SelectDiaryRecordFromIDInMonth(oldRecord.ID, Left(oldRecord.DateEvent, 6)));
             DiaryEventDelete(true);
-            gintcur = selected;
             glbLog.log("moving an event to a different month in this version", 0);
         }
     }
@@ -148,6 +147,7 @@ void cDiaryRecords::DiaryEventEdit() {
 void cDiaryRecords::DiaryEventReschedule() {
     if (gintcur < 0) return;
     CheckDataFileAndReloadIfNeccesary();
+    if (!HasSelectedEvent()) return;
     glbConfig.dialogEditing = true;
     glbConfig.dialogCancelled = false;
     gCurrentEvent.AssignRecord(events(gintcur));
@@ -179,7 +179,7 @@ void cDiaryRecords::DiaryEventMove(const cDiaryRecord& oldRecord, cDiaryRecord n
     else
         LoadDiaryData(DateFromYYYYMMDD(oldRecord.DateEvent));
 
-    DeleteDiaryEventFromArray(SelectDiaryRecordFromID(oldRecord.ID));
+    DeleteDiaryEventFromArray(SelectDiaryRecordFromIDInMonth(oldRecord.ID, Left(oldRecord.DateEvent, 6)));
     SaveDiaryArray(kFieldDelimiter, nullptr);
     glbConfig.dataChanged = false;
 
@@ -190,7 +190,7 @@ void cDiaryRecords::DiaryEventMove(const cDiaryRecord& oldRecord, cDiaryRecord n
 }
 
 void cDiaryRecords::DiaryEventDelete(bool noQuestion) {
-    if (gintcur < 0) {
+    if (!HasSelectedEvent()) {
         platform().MsgBox("Select a record to be deleted first", vbOKOnly, "");
         return;
     }

@@ -6,6 +6,7 @@
 #include "config/PrivateProfile.h"
 #include "config/clsConfigDiary.h"
 #include "diary/cDiaryRecords.h"
+#include "foundation/DateHelpers.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -46,7 +47,7 @@ std::string cDiaryRecords::diaryFileName(VbDate date) const {
 
 std::string cDiaryRecords::GetDiaryFileNameForDate(VbDate date) {
     const std::string name = diaryFileName(date);
-    if (!FileExists(name)) AppendToFile(name, "\r\n");
+    if (!FileExists(name) && IsDiaryDate(date)) AppendToFile(name, "\r\n");
     return name;
 }
 
@@ -91,6 +92,10 @@ long cDiaryRecords::readLinesInto(const std::string& bytes, long from) {
 
 void cDiaryRecords::LoadDiaryData(VbDate date) {
     platform().SetBusyCursor(true);
+    // The array is read anew in file order: the selected event is found again by its ID.
+    const bool selected = HasSelectedEvent();
+    const std::string chosenId = selected ? events(gintcur).ID : "";
+    const std::string chosenMonth = selected ? Left(events(gintcur).DateEvent, 6) : "";
     slots_.clear();
     SetUpperBound(100);
     gBoolExtraDiaryDataLoaded = false;
@@ -117,6 +122,7 @@ void cDiaryRecords::LoadDiaryData(VbDate date) {
         else if (Month(date + days) != Month(date))
             LoadExtraDiaryData(date + days);
     }
+    if (gintcur >= 0) gintcur = AsCurrentIndex(SelectDiaryRecordFromIDInMonth(chosenId, chosenMonth));
     platform().SetBusyCursor(false);
 }
 

@@ -307,7 +307,7 @@ bool cDiaryRecords::GetEventFromGrid(FlexGrid& grid, MonthView& calendar, Status
         // In day view the row names its event; a cell of several events names none.
         if (dayView) index = SelectDiaryRecordFromID(IdConvertToString(grid.ColData(col), grid.RowData(row)));
         if (index < 0) index = SelectDiaryRecordIndex(grid.ColData(col), slotTime, text);
-        if (index > INT16_MAX) index = -1;  // beyond what the current event index can hold
+        index = AsCurrentIndex(index);
         if (index >= 0) {
             currentGridRow_ = row;
             currentGridCol_ = col;

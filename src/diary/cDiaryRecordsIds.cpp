@@ -123,7 +123,7 @@ void cDiaryRecords::AddDiaryRecord(cDiaryRecord& record, bool reload, bool noSer
         return;
     }
     glbLog.log("AddDiaryRecord (File Append) to " + gStrDiaryDataFile + " - " + line, 3);
-    if (!AppendToFile(gStrDiaryDataFile, line + "\r\n")) {
+    if (!IsDiaryDate(date) || !AppendToFile(gStrDiaryDataFile, line + "\r\n")) {
         glbLog.log("AddDiaryRecord - could not append to " + gStrDiaryDataFile + " - " + line, 0);
         return;
     }

@@ -11,6 +11,10 @@ VbDate DateFromYYYYMMDD(const std::string& text) {
                       ValInt(Right(text, 2)));
 }
 
+bool IsDiaryDate(VbDate date) {
+    return date >= DateSerial(kFirstDiaryYear, 1, 1) && date < DateSerial(kLastDiaryYear, 12, 31) + 1;
+}
+
 std::string FormatHHMM(int hour, int minute) {
     return FormatNumber(hour, "00") + FormatNumber(minute, "00");
 }

@@ -7,6 +7,13 @@
 
 namespace orbidex {
 
+/// The years the diary lists: the month calendar and the date pickers offer them, and
+/// monthly files are kept for them only.
+constexpr int kFirstDiaryYear = 1900;
+constexpr int kLastDiaryYear = 9999;
+/// True for a day within the diary's years.
+bool IsDiaryDate(VbDate date);
+
 /// The date from characters 1 to 4, 5 and 6, and the last two of a "yyyymmdd" text.
 VbDate DateFromYYYYMMDD(const std::string& text);
 /// Two digits each, joined: FormatHHMM(9, 5) is "0905".

@@ -14,7 +14,10 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
 #include <QRandomGenerator>
@@ -22,6 +25,7 @@
 #include <QStandardPaths>
 #include <QSysInfo>
 #include <QUrl>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -82,6 +86,23 @@ QString titleOr(const std::string& title) {
     return title.empty() ? QCoreApplication::applicationName() : ToQString(title);
 }
 
+// The width a window needs for the whole of its title: the text in the desktop's
+// font and room for the title bar's icon and buttons, within the screen.
+int titleWidth(const QString& title) {
+    constexpr int kTitleBarRoom = 160;
+    const int wanted = QFontMetrics(QApplication::font()).horizontalAdvance(title) + kTitleBarRoom;
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen == nullptr ? wanted : std::min(wanted, screen->availableGeometry().width() * 9 / 10);
+}
+
+// A message box sizes itself by its text alone: a row as wide as the title widens it.
+void makeRoomForTitle(QMessageBox& box) {
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (grid == nullptr) return;
+    grid->addItem(new QSpacerItem(titleWidth(box.windowTitle()), 0, QSizePolicy::Minimum, QSizePolicy::Fixed),
+                  grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 }  // namespace
 
 QtPlatform::QtPlatform(QtFormRegistry& forms) : forms_(forms) {}
@@ -102,14 +123,18 @@ double QtPlatform::Rnd() { return QRandomGenerator::global()->generateDouble(); 
 int QtPlatform::MsgBox(const std::string& prompt, int buttons, const std::string& title) {
     QMessageBox box(iconOf(buttons), titleOr(title), ToQString(prompt), buttonsOf(buttons), QApplication::activeWindow());
     box.setDefaultButton(defaultOf(buttons));
+    makeRoomForTitle(box);
     return answerOf(box.exec());
 }
 
 std::string QtPlatform::InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) {
-    bool ok = false;
-    const QString text = QInputDialog::getText(QApplication::activeWindow(), titleOr(title), ToQString(prompt),
-                                               QLineEdit::Normal, ToQString(defaultText), &ok);
-    return ok ? FromQString(text) : "";
+    QInputDialog box(QApplication::activeWindow());
+    box.setWindowTitle(titleOr(title));
+    box.setLabelText(ToQString(prompt));
+    box.setTextValue(ToQString(defaultText));
+    // The box lays itself out when shown: its text makes it as wide as the title.
+    if (auto* label = box.findChild<QLabel*>()) label->setMinimumWidth(titleWidth(box.windowTitle()));
+    return box.exec() == QDialog::Accepted ? FromQString(box.textValue()) : "";
 }
 
 void QtPlatform::SetBusyCursor(bool busy) {

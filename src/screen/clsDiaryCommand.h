@@ -127,8 +127,6 @@ private:
     /// Enables the pop-up menu's entries that act on the current event when there is
     /// one, and with `menuBarToo` those of the Appointments menu.
     void enableEventEntries(bool menuBarToo);
-    /// An index of the event array as the 16-bit current index holds it; -1 beyond.
-    static int16_t currentIndex(long index);
     void timerOn(bool on);
     void unavailable(const std::string& what);
 

@@ -81,6 +81,10 @@ void clsDiaryCommand::ToolbarClicked(const std::string& key) {
         if (mode == "TASK") TaskAdd(date);
         if (mode == "STAFF") BookMeeting(date, "");
         if (mode == "NOTE") NoteAdd();
+    } else if (key == "delete") {
+        if (mode == "CALENDAR") EventDelete();
+        if (mode == "TASK") TaskDelete();
+        if (mode == "NOTE") NoteDelete();
     } else if (key == "grid") {
         ViewGrid();
         redrawView();

@@ -58,12 +58,18 @@ void clsDiaryCommand::EventDelete() {
 void clsDiaryCommand::EventReschedule() {
     if (form_ == nullptr) return;
     if (glbConfig.GridOrList == "GRID") {
-        // The event is the one the selected cell's row and column name.
+        // The event is the one under the selected cell.  In the day view the row names
+        // it; in the other views a row's number is that of the last event placed in
+        // any of its days, so the event is the one the click on this cell found.
         const FlexGrid& grid = form_->gridDays;
-        const std::string id = glbEvents.IdConvertToString(grid.ColData(grid.Col), grid.RowData(grid.Row));
-        gintcur = currentIndex(glbEvents.SelectDiaryRecordFromID(id));
+        if (glbConfig.DayWeekMonth == 1) {
+            const std::string id = glbEvents.IdConvertToString(grid.ColData(grid.Col), grid.RowData(grid.Row));
+            gintcur = AsCurrentIndex(glbEvents.SelectDiaryRecordFromID(id));
+        } else if (grid.Row != glbEvents.currentGridRow() || grid.Col != glbEvents.currentGridCol()) {
+            gintcur = -1;
+        }
     }
-    if (gintcur < 0) {
+    if (!glbEvents.HasSelectedEvent()) {
         platform().MsgBox("Selected an Appointment to reschedule", vbOKOnly, "");
         return;
     }

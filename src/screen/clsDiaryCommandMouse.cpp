@@ -1,6 +1,4 @@
 // The mouse on the views: clicks and double clicks on the time grid and the lists.
-#include <limits>
-
 #include "config/clsConfigDiary.h"
 #include "diary/CalendarView.h"
 #include "diary/cDiaryRecords.h"
@@ -26,10 +24,6 @@ const char* const kMultipleQuestion =
     "Click 'Cancel' to do nothing and return to the Diary";
 
 }  // namespace
-
-int16_t clsDiaryCommand::currentIndex(long index) {
-    return index < 0 || index > std::numeric_limits<int16_t>::max() ? int16_t{-1} : static_cast<int16_t>(index);
-}
 
 void clsDiaryCommand::enableEventEntries(bool menuBarToo) {
     const bool selected = gintcur >= 0;
@@ -89,7 +83,7 @@ void clsDiaryCommand::MouseListClicked(ListView& list) {
     ListItem* item = list.SelectedItem();
     if (mode == "CALENDAR") {
         if (item == nullptr) return;
-        gintcur = currentIndex(glbEvents.SelectDiaryRecordFromID(item->Key));
+        gintcur = AsCurrentIndex(glbEvents.SelectDiaryRecordFromID(item->Key));
         enableEventEntries(true);
     } else if (mode == "MESSAGE") {
         if (item != nullptr) form_->status.Panels(1).Text = "Message = " + item->ToolTipText();

@@ -2,9 +2,12 @@
 // its controls, and the two splitters.
 #include "screen/frmClientDiaryMain.h"
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 
 #include "config/clsConfigDiary.h"
+#include "controls/KeyCodes.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
@@ -67,6 +70,8 @@ void frmClientDiaryMain::bindControls() {
     gridDays.onClick = [this] { gridDays_Click(); };
     gridDays.onDblClick = [this] { gridDays_DblClick(); };
     gridDays.onMouseUp = [this](int button, int shift, long x, long y) { gridDays_MouseUp(button, shift, x, y); };
+    gridDays.onKeyDown = [this](int& keyCode, int shift) { gridDays_KeyDown(keyCode, shift); };
+    gridDays.onKeyUp = [this](int& keyCode, int shift) { gridDays_KeyUp(keyCode, shift); };
     lvDiary.onItemClick = [this](ListItem& item) { lvDiary_ItemClick(item); };
     lvDiary.onDblClick = [this] { lvDiary_DblClick(); };
     lvDiary.onColumnClick = [this](ColumnHeader& column) { lvDiary_ColumnClick(column); };
@@ -140,6 +145,23 @@ void frmClientDiaryMain::gridDays_DblClick() {
 
 void frmClientDiaryMain::gridDays_MouseUp(int button, int, long, long) {
     if (button == vbRightButton && glbScreen.Mode() == "CALENDAR") PopupMenu(mnuPopupGrid);
+}
+
+void frmClientDiaryMain::gridDays_KeyDown(int& keyCode, int) {
+    if (keyCode == vbKeyReturn) {
+        keyCode = 0;
+        gridDays_DblClick();
+    } else if (keyCode == vbKeyDelete && glbScreen.Mode() == "CALENDAR") {
+        keyCode = 0;
+        glbCmd.EventDelete();
+    }
+}
+
+void frmClientDiaryMain::gridDays_KeyUp(int& keyCode, int) {
+    // The keys that move the current cell: the grid has moved it when the key comes up.
+    static constexpr int kMovingKeys[] = {vbKeyLeft, vbKeyUp,  vbKeyRight,  vbKeyDown,
+                                          vbKeyHome, vbKeyEnd, vbKeyPageUp, vbKeyPageDown};
+    if (std::find(std::begin(kMovingKeys), std::end(kMovingKeys), keyCode) != std::end(kMovingKeys)) gridDays_Click();
 }
 
 void frmClientDiaryMain::lvDiary_ItemClick(ListItem&) {

@@ -54,6 +54,10 @@ public:
     void gridDays_Click();
     void gridDays_DblClick();
     void gridDays_MouseUp(int button, int shift, long x, long y);
+    /// Enter does what a double click does; Delete deletes the selected event.
+    void gridDays_KeyDown(int& keyCode, int shift);
+    /// A key that moved the current cell selects it as a click on it does.
+    void gridDays_KeyUp(int& keyCode, int shift);
     void lvDiary_ItemClick(ListItem& item);
     void lvDiary_DblClick();
     /// Sorts the event list by the column, turning the order round at a second click.

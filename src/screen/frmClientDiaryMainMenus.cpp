@@ -27,7 +27,7 @@ const std::set<std::string>& entriesWithoutOperation() {
 
 const std::set<std::string>& keysWithoutOperation() {
     static const std::set<std::string> keys = {
-        "Find", "delete", "year", "showall", "current", "refresh", "properties", "Task", "Note", "Meeting",
+        "Find", "year", "showall", "current", "refresh", "properties", "Task", "Note", "Meeting",
     };
     return keys;
 }
@@ -36,6 +36,11 @@ const std::set<std::string>& keysWithoutOperation() {
 // does nothing yet and is disabled.
 bool newAddsIn(const std::string& mode) {
     return mode == "HOME" || mode == "CALENDAR";
+}
+
+// The modes in which the tool bar's "delete" button deletes the selected item.
+bool deleteActsIn(const std::string& mode) {
+    return mode == "CALENDAR";
 }
 
 }  // namespace
@@ -48,6 +53,7 @@ bool frmClientDiaryMain::HasOperation(const Menu& entry) {
 
 bool frmClientDiaryMain::HasOperation(const Button& button, const std::string& mode) {
     if (button.Key == "new") return newAddsIn(mode);
+    if (button.Key == "delete") return deleteActsIn(mode);
     return keysWithoutOperation().count(button.Key) == 0;
 }
 

@@ -168,9 +168,12 @@ TEST_F(EventEditorTest, TheDetailsButtonWidensAndNarrowsTheWindow) {
 }
 
 TEST_F(EventEditorTest, BrokenDatesAndTimesOpenAndSaveWithoutHarm) {
-    // A damaged line gives the pickers a date they can hold, from the year 100 to 9999.
-    const std::pair<std::string, std::string> dates[] = {
-        {"", "1000101"}, {"abc", "1000101"}, {"99999999", "99991231"}, {"2004", "20031130"}, {"200402310", "20040302"}};
+    // A damaged line gives the pickers a date they can hold, from the year 1900 to 9999.
+    const std::pair<std::string, std::string> dates[] = {{"", "19000101"},
+                                                         {"abc", "19000101"},
+                                                         {"99999999", "99991231"},
+                                                         {"2004", "20031130"},
+                                                         {"200402310", "20040302"}};
     for (const auto& [date, saved] : dates) {
         Open(Fields({"D1", date, "", "9", "x", "", "", "", "", date, "zz", "", "", "", "Odd"}));
         EXPECT_EQ(Save().DateEvent, saved) << date;

@@ -135,7 +135,7 @@ TEST_F(EventOperationsTest, AnEditToNextMonthMovesTheEventToThatMonthsFile) {
     EXPECT_EQ(Lines("D200407.dat"),
               (std::vector<std::string>{"", EventLine("D200407030001", "20040703", "1000", "Dentist")}));
     EXPECT_TRUE(LoggedMessage("moving an event to a different month in this version"));
-    EXPECT_EQ(gintcur, 1);
+    EXPECT_EQ(gintcur, -1) << "the edited event has left the month in hand";
 }
 
 TEST_F(EventOperationsTest, EditingAMeetingOffersToTellTheOthers) {
@@ -257,4 +257,24 @@ TEST_F(EventOperationsTest, BulkAddingWalksTheRecordsOnceForEachMonth) {
     EXPECT_EQ(gLngWhichMonthIsLoaded, June(5)) << "the calendar's month is loaded again";
     EXPECT_EQ(platform_.Transcript().at(0).title, "Success");
     EXPECT_EQ(platform_.Transcript().at(0).text, "Finished adding 3 records.");
+}
+
+TEST_F(EventOperationsTest, ABlankRecordOrAnEmptySlotIsNeverEditedRescheduledOrDeleted) {
+    // A new month's file starts with a blank line; 2 is the empty top slot, 5 beyond the array.
+    for (const int16_t selected : {0, 2, 5}) {
+        LoadJune({"", kStandup});
+        const std::string before = ReadBytes(Data("D200406.dat"));
+        gintcur = selected;
+        glbEvents.DiaryEventReschedule();
+        glbEvents.DiaryEventEdit();
+        glbEvents.DiaryEventDelete(false);
+        EXPECT_EQ(ReadBytes(Data("D200406.dat")), before) << selected;
+        EXPECT_EQ(ListFolder(Data("D*.dat"), false), std::vector<std::string>{"D200406.dat"}) << selected;
+    }
+    EXPECT_TRUE(platform_.FormsShown().empty());
+    const std::vector<std::string> refused = {"I dont know which event you selected",
+                                              "Select a record to be deleted first"};
+    std::vector<std::string> expected;
+    for (int i = 0; i < 3; ++i) expected.insert(expected.end(), refused.begin(), refused.end());
+    EXPECT_EQ(platform_.MessageTexts(), expected);
 }

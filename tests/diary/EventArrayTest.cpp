@@ -162,3 +162,17 @@ TEST_F(EventArrayTest, DeletingShiftsTheRestDownBlanksTheLastAndSaves) {
     EXPECT_EQ(gIntTotalEvents, 2);
     EXPECT_EQ(ReadBytes(Data("D200406.dat")), a + "\r\n" + c + "\r\n");
 }
+
+TEST_F(EventArrayTest, TheSelectionStaysOnItsEventThroughADeleteAndIsNoneWhenThatIsTheOneDeleted) {
+    const std::string a = EventLine("D200406050001", "20040605", "0900", "A");
+    const std::string b = EventLine("D200406050002", "20040605", "1000", "B");
+    const std::string c = EventLine("D200406050003", "20040605", "1100", "C");
+    // selected before B is deleted, selected after
+    const std::pair<int16_t, int16_t> cases[] = {{0, 0}, {1, -1}, {2, 1}, {-1, -1}};
+    for (const auto& [before, after] : cases) {
+        LoadJune({a, b, c});
+        gintcur = before;
+        glbEvents.DeleteDiaryEventFromArray(1);
+        EXPECT_EQ(gintcur, after) << before;
+    }
+}

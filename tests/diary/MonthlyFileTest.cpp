@@ -218,3 +218,45 @@ TEST_F(MonthlyFileTest, TheOlderPathLookupTriesTheIniFilesThenAsks) {
     EXPECT_EQ(glbEvents.GetDiaryDataPath(), platform_.ProgramFolder()) << "cancel means the program folder";
     EXPECT_EQ(platform_.Transcript().back().title, "Path where Brindlewick Software's Diary is installed");
 }
+
+TEST_F(MonthlyFileTest, AReloadKeepsTheSelectedEventFoundByItsIdentifierInItsOwnMonth) {
+    // Two months of a week share an identifier, as each file numbers its own events.
+    const std::string juneCall = EventLine("D200406050001", "20040630", "0900", "June call");
+    const std::string julyCall = EventLine("D200406050001", "20040701", "0900", "July call");
+    const std::string julyWalk = EventLine("D200406050002", "20040702", "1000", "July walk");
+    MainForm().MonthView1.Value = DateSerial(2004, 7, 1);
+    glbNumDaysToDisplay = 7;
+    // selected index before the reload, the details selected after it ("" for none);
+    // loaded are July's walk and call, then June's blank line and call
+    const std::vector<std::pair<int16_t, std::string>> cases = {{1, "July call"}, {3, "June call"}, {0, "July walk"},
+                                                                {2, ""},          {4, ""},          {-1, ""}};
+    for (const auto& [before, after] : cases) {
+        WriteLines("D200406.dat", {"", juneCall});
+        WriteLines("D200407.dat", {julyWalk, julyCall});
+        glbEvents.LoadDiaryData(DateSerial(2004, 7, 1));
+        gintcur = before;
+        glbEvents.SaveDiaryArray(kFieldDelimiter, nullptr);  // each file anew, starting with a blank line
+        glbEvents.CheckDataFileAndReloadIfNeccesary();
+        EXPECT_EQ(gintcur < 0 ? "" : glbEvents.events(gintcur).details, after) << before;
+        EXPECT_EQ(gintcur < 0, after.empty()) << before;
+    }
+}
+
+TEST_F(MonthlyFileTest, NoMonthlyFileIsMadeForADateOutsideTheDiarysYears) {
+    for (const VbDate date : {DateSerial(100, 1, 1), DateSerial(1899, 12, 31), DateSerial(99, 12, 5)}) {
+        const std::string name = glbEvents.GetDiaryFileNameForDate(date);
+        EXPECT_FALSE(FileExists(name)) << name;
+        glbEvents.LoadDiaryData(date);
+        EXPECT_EQ(gIntTotalEvents, 0);
+    }
+    // An event dated before the diary's years is not appended anywhere.
+    for (const char* date : {"18991231", "1000101", "00991205"}) {
+        cDiaryRecord record;
+        record.GetDiaryRecordFromText(EventLine("", date, "0900", "Too early"));
+        glbEvents.AddDiaryRecord(record);
+        EXPECT_TRUE(Logged(", AddDiaryRecord - could not append to " + gStrDiaryDataFile)) << date;
+    }
+    EXPECT_EQ(ListFolder(Data("*.*"), false), std::vector<std::string>{"OX_LOG.log"});
+    EXPECT_TRUE(FileExists(glbEvents.GetDiaryFileNameForDate(DateSerial(1900, 1, 1))));
+    EXPECT_TRUE(FileExists(glbEvents.GetDiaryFileNameForDate(DateSerial(9999, 12, 31))));
+}

@@ -3,6 +3,7 @@
 // dialog under screenshots/ for a person to look at.
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QTabBar>
 #include <QTest>
 #include <QTextEdit>
@@ -92,6 +93,18 @@ TEST_F(EventDialogsWindowTest, EnterTwiceInTheTextSavesTheEvent) {
     EXPECT_TRUE(form.IsUnloaded());
     EXPECT_EQ(gCurrentEvent.details, "Ring the bank  ");
     EXPECT_TRUE(glbConfig.dataChanged);
+}
+
+TEST_F(EventDialogsWindowTest, ANewEventTakesTheFirstKeysIntoItsTextWithoutAClick) {
+    glbConfig.dialogEditing = false;
+    gCurrentEvent.details.clear();
+    frmEditEvent form;
+    auto window = Show(form);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QTextEdit* edit = static_cast<RichTextBoxWidget*>(window->viewOf(form.txtDetails))->textEdit();
+    ASSERT_EQ(QApplication::focusWidget(), edit);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Dentist"));
+    EXPECT_EQ(form.txtDetails.Text(), "Dentist");
 }
 
 TEST_F(EventDialogsWindowTest, TheRescheduleMultiDayAndDateGeneratorWindows) {

@@ -10,6 +10,8 @@
 #include "config/clsConfigDiary.h"
 #include "dialogs/frmEditEvent.h"
 #include "dialogs/frmEventMultiple.h"
+#include "dialogs/frmRescheduleEvent.h"
+#include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
@@ -163,6 +165,31 @@ TEST_F(EventCommandsTest, EditDeleteAndRescheduleFromTheMenusAndThePopUpMenuActO
     EXPECT_TRUE(Form().timerSecond.Enabled);
 }
 
+TEST_F(EventCommandsTest, InTheWeekTheRescheduleTakesTheEventOfTheSelectedCell) {
+    // Monday's and Tuesday's calls share the 10:00 row; Tuesday's is placed last.
+    const std::string monday = Fields({"D200406070001", "20040607", "Phone", "1000", "30", "Call", "fred", "", "", "",
+                                       "", "Normal", "", "Office", "Monday call"});
+    const std::string tuesday = Fields({"D200406080001", "20040608", "Phone", "1000", "30", "Call", "fred", "", "", "",
+                                        "", "Normal", "", "Office", "Tuesday call"});
+    Start(monday + tuesday);
+    Toolbar("week");
+    Form().MonthView1.UserClickDate(DateSerial(2004, 6, 7));
+    ASSERT_EQ(Grid().TextMatrix(3, 2), "Monday call");
+    On<frmRescheduleEvent>("frmRescheduleEvent", [](frmRescheduleEvent& form) {
+        EXPECT_EQ(form.txtDetails.Text(), "Monday call");
+        form.cmdCancel.UserClick();
+    });
+    Grid().UserClickCell(3, 2);
+    Form().mnuAppReschedule.UserClick();
+    EXPECT_EQ(Shown("frmRescheduleEvent"), 1);
+
+    Grid().UserClickCell(3, 4);  // Wednesday 10:00, blank
+    Form().mnuAppReschedule.UserClick();
+    EXPECT_EQ(platform_.MessageTexts().back(), "Selected an Appointment to reschedule");
+    EXPECT_EQ(Shown("frmRescheduleEvent"), 1);
+    EXPECT_EQ(File("200406"), monday + tuesday);
+}
+
 TEST_F(EventCommandsTest, TheMultiDayDialogAddsItsEventsAndTheWeekShowsThem) {
     Start("");
     Toolbar("week");
@@ -211,4 +238,84 @@ TEST_F(EventCommandsTest, TheListTheOverviewAndTheTreeAddEventsToo) {
     Form().tv.UserClickNode(*Form().tv.Nodes.Item("CALENDAR_ADDNEW"));
     EXPECT_EQ(glbScreen.Mode(), "CALENDAR");
     EXPECT_EQ(Shown("frmEditEvent"), 4);
+}
+
+// A month's file in the order its lines came: a new month's blank line, then events
+// appended as they arrived.  The first save sorts it, so the array in memory, which
+// the grid was drawn from, no longer matches the file until the month is reloaded.
+class SelectionAfterSaveTest : public EventCommandsTest {
+protected:
+    const std::string lunch_ = Event("D200406050003", "1200", "Lunch");
+    const std::string standup_ = Event("D200406050001", "0900", "Standup");
+    const std::string dentist_ = Event("D200406050002", "1000", "Dentist");
+    const std::string standupAtNine_ = Event("D200406050001", "0900", "Standup at nine");
+
+    void SetUp() override {
+        EventCommandsTest::SetUp();
+        Start("\r\n" + lunch_ + standup_ + dentist_);
+        Save("Standup at nine");
+        DoubleClick(1, 2);  // 09:00
+        ASSERT_EQ(File("200406"), standupAtNine_ + dentist_ + lunch_);
+    }
+    /// The editor opens on `details`, which it changes to `changed`.
+    void Edit(const std::string& details, const std::string& changed) {
+        On<frmEditEvent>("frmEditEvent", [details, changed](frmEditEvent& form) {
+            EXPECT_EQ(form.txtDetails.Text(), details);
+            form.txtDetails.UserEdit({TextRun{changed, {}}}, static_cast<long>(changed.size()));
+            form.cmdOK.UserClick();
+        });
+    }
+    std::vector<std::string> MonthlyFiles() const { return ListFolder(DataPath() + "D*.dat", false); }
+};
+
+TEST_F(SelectionAfterSaveTest, AnEditOpensTheEventDoubleClicked) {
+    Edit("Lunch", "Lunch with Ann");
+    DoubleClick(7, 2);  // 12:00
+    EXPECT_EQ(File("200406"), standupAtNine_ + dentist_ + Event("D200406050003", "1200", "Lunch with Ann"));
+}
+
+TEST_F(SelectionAfterSaveTest, ARescheduleMovesTheEventClicked) {
+    On<frmRescheduleEvent>("frmRescheduleEvent", [](frmRescheduleEvent& form) {
+        EXPECT_EQ(form.txtDetails.Text(), "Dentist");
+        EXPECT_EQ(FormatDate(form.dtPickDate.Value, "yyyymmdd"), "20040605");
+        form.optMoveAhead(0).UserClick();  // the next day
+        form.cmdOK.UserClick();
+    });
+    Grid().UserClickCell(3, 2);  // 10:00
+    Form().mnuAppReschedule.UserClick();
+    EXPECT_EQ(File("200406"), standupAtNine_ + lunch_ +
+                                  Fields({"D200406060001", "20040606", "Phone", "1000", "30", "Call", "fred", "", "",
+                                          "", "", "Normal", "", "Office", "Dentist"}));
+    EXPECT_EQ(MonthlyFiles(), std::vector<std::string>{"D200406.dat"});
+}
+
+TEST_F(SelectionAfterSaveTest, ADeleteTakesOutTheEventClickedAndLeavesNoneSelected) {
+    Grid().UserClickCell(7, 2);  // Lunch
+    On<frmEditEvent>("frmEditEvent", [](frmEditEvent& form) {
+        EXPECT_EQ(form.txtDetails.Text(), "Lunch");
+        form.cmdCancel.UserClick();
+    });
+    Form().mnuAppEdit.UserClick();  // reads the sorted month again
+    platform_.QueueMsgBoxAnswer(vbYes);
+    Form().mnuAppDelete.UserClick();
+    EXPECT_EQ(platform_.Transcript().back().text,
+              "Deleting event on 20040605 at 1200 details :Lunch\r\n\r\nDo you want to delete this event");
+    EXPECT_EQ(File("200406"), standupAtNine_ + dentist_);
+
+    Form().mnuAppDelete.UserClick();
+    EXPECT_EQ(platform_.MessageTexts().back(), "Select a record to be deleted first");
+    EXPECT_EQ(File("200406"), standupAtNine_ + dentist_);
+}
+
+TEST_F(SelectionAfterSaveTest, AnEditThatMovesToAnotherMonthMovesTheEventDoubleClicked) {
+    On<frmEditEvent>("frmEditEvent", [](frmEditEvent& form) {
+        EXPECT_EQ(form.txtDetails.Text(), "Lunch");
+        form.dtPickDate.UserPickDate(DateSerial(2004, 7, 3));
+        form.cmdOK.UserClick();
+    });
+    DoubleClick(7, 2);
+    EXPECT_EQ(File("200406"), standupAtNine_ + dentist_);
+    EXPECT_EQ(File("200407"), "\r\n" + Fields({"D200407030001", "20040703", "Phone", "1200", "30", "Call", "fred", "",
+                                               "", "", "", "Normal", "", "Office", "Lunch"}));
+    EXPECT_EQ(MonthlyFiles(), (std::vector<std::string>{"D200406.dat", "D200407.dat"}));
 }

@@ -30,18 +30,21 @@
 #include "qt/views/FormWindow.h"
 #include "qt/views/OptionButtonWidget.h"
 #include "qt/views/RichTextBoxWidget.h"
+#include "qt/views/ToolbarWidget.h"
 #include "screen/frmClientDiaryMain.h"
 
 using namespace orbidex;
 
 namespace {
 
-const char* const kBank =
-    "D200406050001\x1F"
-    "20040605\x1FOffice\x1F"
-    "1400\x1F"
-    "30\x1F"
-    "Call\x1F\x1F\x1F\x1F\x1F\x1FNormal\x1F\x1F\x1FRing the bank\x1F\r\n";
+// An event line as the bank's: an office call of half an hour.
+std::string Line(const std::string& id, const std::string& date, const std::string& time, const std::string& details) {
+    const std::string f = "\x1F";
+    return id + f + date + f + "Office" + f + time + f + "30" + f + "Call" + f + f + f + f + f + f + "Normal" + f + f +
+           f + details + f + "\r\n";
+}
+
+const std::string kBank = Line("D200406050001", "20040605", "1400", "Ring the bank");
 
 template <typename View>
 View* viewOf(QWidget& window, const Control& control) {
@@ -70,7 +73,7 @@ protected:
         ResetProgramState();
         data_ = folder_.Stored() + "\\data\\";
         MakeFolder(data_);
-        WriteWholeFile(data_ + "D200406.dat", kBank);
+        WriteWholeFile(data_ + "D200406.dat", June());
         RegisterProgramWindows(forms_);
         SetPlatform(&platform_);
         modMain("LOCAL");
@@ -85,6 +88,8 @@ protected:
         SetPlatform(nullptr);
     }
 
+    /// The month's file the program starts on.
+    virtual std::string June() const { return kBank; }
     FlexGridWidget& grid() { return *viewOf<FlexGridWidget>(*main_, MainForm().gridDays); }
     QPoint cell(long row, long col) { return grid().cellRect(row, col).center(); }
     void doubleClick(long row, long col) {
@@ -189,4 +194,103 @@ TEST_F(EventWindowTest, TheRescheduleAndMultiDayDialogsOverTheMainWindow) {
     ASSERT_NE(menuEntry(QStringLiteral("Add &Multiple Day Event")), nullptr);
     menuEntry(QStringLiteral("Add &Multiple Day Event"))->trigger();
     EXPECT_TRUE(MainForm().timerSecond.Enabled);
+}
+
+TEST_F(EventWindowTest, KeysInTheGridSelectEditAndDeleteAsTheMouseAndTheMenusDo) {
+    QWidget* keys = grid().area();
+    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cell(10, 2));  // 13:30, blank
+    QTest::keyClick(keys, Qt::Key_Down);
+    FlexGrid& model = MainForm().gridDays;
+    EXPECT_EQ(model.Row(), 11);
+    EXPECT_EQ(gintcur, 0) << "the bank at 14:00";
+    EXPECT_EQ(MainForm().status.Panels(1).Text(), "At 1400 on 20040605 spent 30 minutes on ''Ring the bank'");
+    EXPECT_TRUE(MainForm().mnuPopupGridDelete.Enabled);
+
+    platform_.OnNextModal([this](Form& form, QWidget& window) {
+        auto& editor = static_cast<frmEditEvent&>(form);
+        EXPECT_EQ(editor.txtDetails.Text(), "Ring the bank");
+        typeAndSave(window, editor, QStringLiteral("Ring the bank manager"));
+    });
+    QTest::keyClick(keys, Qt::Key_Return);
+    EXPECT_EQ(linesWith(data_ + "D200406.dat", "Ring the bank manager").size(), 1U);
+
+    QTest::keyClick(keys, Qt::Key_Up);
+    EXPECT_EQ(MainForm().status.Panels(1).Text(), "Blank Timeslot on 5-Jun-2004 at 1330");
+    QTest::keyClick(keys, Qt::Key_Down);
+    platform_.answers.push_back(vbNo);
+    QTest::keyClick(keys, Qt::Key_Delete);
+    EXPECT_EQ(platform_.messages.back(),
+              "Deleting event on 20040605 at 1400 details :Ring the bank manager\r\n\r\nDo you want to delete this "
+              "event");
+    EXPECT_EQ(linesWith(data_ + "D200406.dat", "Ring the bank manager").size(), 1U) << "No keeps it";
+
+    // The tool bar's Delete button asks the same, and Yes deletes.
+    auto* bar = static_cast<ToolbarWidget*>(static_cast<FormWindow*>(main_)->viewOf(MainForm().Toolbar1));
+    QAction* remove = bar->actionOf(MainForm().Toolbar1.Buttons.Item("delete"));
+    ASSERT_TRUE(remove->isEnabled());
+    platform_.answers.push_back(vbYes);
+    remove->trigger();
+    EXPECT_EQ(platform_.messages.size(), 2U);
+    EXPECT_EQ(platform_.messages.back(), platform_.messages.front());
+    EXPECT_TRUE(linesWith(data_ + "D200406.dat", "Ring the bank manager").empty());
+    QTest::keyClick(keys, Qt::Key_Delete);
+    EXPECT_EQ(platform_.messages.back(), "Select a record to be deleted first");
+}
+
+// A month's file in the order its lines came: a new month's blank line, then the
+// events appended to it.  The first save sorts it, after which the program must
+// still act on the events the user points at.
+class SavedMonthWindowTest : public EventWindowTest {
+protected:
+    std::string June() const override { return "\r\n" + kLunch + kStandup + kBank; }
+    /// Double-clicks the stand-up, changes it and saves: the file is sorted.
+    void editTheStandup() {
+        platform_.OnNextModal([this](Form& form, QWidget& window) {
+            typeAndSave(window, static_cast<frmEditEvent&>(form), QStringLiteral("Standup at nine"));
+        });
+        doubleClick(1, 2);  // 09:00
+        ASSERT_EQ(june(), kBank + kStandupAtNine + kLunch);
+    }
+    /// The month's files in the data folder, each with its network form beside it.
+    std::vector<std::string> monthFiles() const {
+        std::vector<std::string> names = ListFolder(data_ + "D*.dat*", false);
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+    std::string june() const {
+        std::string bytes;
+        ReadWholeFile(data_ + "D200406.dat", bytes);
+        return bytes;
+    }
+
+    static inline const std::string kStandup = Line("D200406050002", "20040605", "0900", "Standup");
+    static inline const std::string kStandupAtNine = Line("D200406050002", "20040605", "0900", "Standup at nine");
+    static inline const std::string kLunch = Line("D200406050003", "20040605", "1200", "Lunch");
+};
+
+TEST_F(SavedMonthWindowTest, DoubleClickingAnotherEventAfterASaveEditsThatEvent) {
+    editTheStandup();
+    platform_.OnNextModal([this](Form& form, QWidget& window) {
+        auto& editor = static_cast<frmEditEvent&>(form);
+        EXPECT_EQ(editor.txtDetails.Text(), "Lunch");
+        typeAndSave(window, editor, QStringLiteral("Lunch with Ann"));
+    });
+    doubleClick(7, 2);  // 12:00
+    EXPECT_EQ(june(), kBank + kStandupAtNine + Line("D200406050003", "20040605", "1200", "Lunch with Ann"));
+    EXPECT_EQ(monthFiles(), (std::vector<std::string>{"D200406.dat", "D200406.dat_NET"}));
+}
+
+TEST_F(SavedMonthWindowTest, ReschedulingTheEventClickedAfterASaveMovesThatEvent) {
+    editTheStandup();
+    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cell(11, 2));  // 14:00, the bank
+    platform_.OnNextModal([this](Form& form, QWidget& window) {
+        auto& dialog = static_cast<frmRescheduleEvent&>(form);
+        EXPECT_EQ(dialog.txtDetails.Text(), "Ring the bank");
+        EXPECT_EQ(FormatDate(dialog.dtPickDate.Value, "yyyymmdd"), "20040605");
+        QTest::mouseClick(viewOf<OptionButtonWidget>(window, dialog.optMoveAhead(0))->radioButton(), Qt::LeftButton);
+        press(window, dialog.cmdOK);
+    });
+    menuEntry(QStringLiteral("&Reschedule this Appointment"))->trigger();
+    EXPECT_EQ(june(), kStandupAtNine + kLunch + Line("D200406060001", "20040606", "1400", "Ring the bank"));
+    EXPECT_EQ(monthFiles(), (std::vector<std::string>{"D200406.dat", "D200406.dat_NET"}));
 }

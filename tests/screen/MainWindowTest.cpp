@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QImage>
 #include <QLabel>
 #include <QMenuBar>
 #include <QToolBar>
@@ -35,6 +36,15 @@ std::string eventLine(const std::string& id, const std::string& date, const std:
     const std::string f = "\x1F";
     return id + f + date + f + "Office" + f + time + f + length + f + "Call" + f + f + f + f + f + f + "Normal" + f +
            f + f + details + f + "\r\n";
+}
+
+// True when the icon gives a picture with at least one pixel that is not transparent.
+bool Drawn(const QIcon& icon) {
+    const QImage image = icon.pixmap(24, 24).toImage();
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qAlpha(image.pixel(x, y)) != 0) return true;
+    return false;
 }
 
 class MainWindowTest : public ::testing::Test {
@@ -192,6 +202,19 @@ TEST_F(MainWindowTest, MenusToolBarAndIcons) {
     // The program's own icons, not the tiles of unknown names.
     EXPECT_EQ(buttonAction("print")->icon().cacheKey(), ProgramIcon("print").cacheKey());
     EXPECT_EQ(buttonAction("new")->icon().cacheKey(), ProgramIcon("calendar").cacheKey());
+    // Every icon of the tool bar and the shortcut bar can be drawn: the drawings need
+    // Qt's SVG image plugin on the machine.
+    auto* tools = static_cast<ToolbarWidget*>(window().viewOf(form().Toolbar1));
+    for (QAction* action : tools->toolBar()->actions()) {
+        if (action->isVisible() && !action->isSeparator()) {
+            EXPECT_TRUE(Drawn(action->icon())) << action->text().toStdString();
+        }
+    }
+    ASSERT_GT(form().lvView.ListItems.Count(), 0);
+    for (long i = 1; i <= form().lvView.ListItems.Count(); ++i) {
+        const std::string icon = form().lvView.ListItems(i).Icon;
+        EXPECT_TRUE(Drawn(ProgramIcon(icon))) << icon;
+    }
 
     // A print of the day view is a page in the data folder, opened for the user.
     buttonAction("print")->trigger();

@@ -3,6 +3,7 @@
 #include <QDateTimeEdit>
 
 #include "controls/DatePicker.h"
+#include "foundation/DateHelpers.h"
 #include "foundation/VbDate.h"
 #include "qt/QtText.h"
 
@@ -28,8 +29,8 @@ DatePickerWidget::DatePickerWidget(DatePicker& control, QWidget* parent)
     : ControlWidget(control, parent), picker_(control), edit_(new QDateTimeEdit) {
     setInner(edit_);
     edit_->setTimeSpec(Qt::UTC);
-    edit_->setMinimumDate(QDate(100, 1, 1));
-    edit_->setMaximumDate(QDate(9999, 12, 31));
+    edit_->setMinimumDate(QDate(kFirstDiaryYear, 1, 1));
+    edit_->setMaximumDate(QDate(kLastDiaryYear, 12, 31));
     connect(edit_, &QDateTimeEdit::dateTimeChanged, this, [this] { userChanged(); });
     refresh();
 }

@@ -169,6 +169,12 @@ void FormWindow::moveEvent(QMoveEvent* event) {
     applying_ = false;
 }
 
+void FormWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    Control* active = form_ != nullptr ? form_->ActiveControl() : nullptr;
+    if (ControlWidget* view = active != nullptr ? viewOf(*active) : nullptr) view->setFocus(Qt::OtherFocusReason);
+}
+
 void FormWindow::closeEvent(QCloseEvent* event) {
     if (form_ != nullptr && !form_->UserClose())
         event->ignore();

@@ -3,7 +3,8 @@
 // the form's controls is drawn by its view at the control's place in twips (tool
 // bars along the top, status bars along the bottom).  Closing the window asks the
 // form (Form_Unload may refuse); resizing it runs Form_Resize; Enter and Escape
-// press the form's Default and Cancel buttons.
+// press the form's Default and Cancel buttons.  Shown, it gives the focus to the
+// control the form's code gave it, also when that was before the window existed.
 
 #include <QHash>
 #include <QPointer>
@@ -34,6 +35,7 @@ public:
     QMenuBar* menuBar() const { return menuBar_; }
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;

@@ -6,6 +6,7 @@
 #include <QTextCharFormat>
 
 #include "controls/MonthView.h"
+#include "foundation/DateHelpers.h"
 #include "foundation/VbDate.h"
 #include "qt/views/ViewSupport.h"
 
@@ -36,6 +37,7 @@ void MonthViewWidget::build(long rows, long columns) {
             auto* calendar = new QCalendarWidget;
             calendar->setGridVisible(false);
             calendar->setDateEditEnabled(false);
+            calendar->setDateRange(QDate(kFirstDiaryYear, 1, 1), QDate(kLastDiaryYear, 12, 31));
             if (auto* table = calendar->findChild<QTableView*>()) takeDropsOn(table->viewport());
             const auto index = calendars_.size();
             connect(calendar, &QCalendarWidget::clicked, this, [this](QDate date) {
