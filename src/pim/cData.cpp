@@ -15,7 +15,9 @@ namespace {
 
 const std::string kNoLine;
 
-bool isBlank(const std::string& line) { return line.find_first_not_of(' ') == std::string::npos; }
+bool isBlank(const std::string& line) {
+    return line.find_first_not_of(' ') == std::string::npos;
+}
 
 }  // namespace
 
@@ -32,9 +34,9 @@ void cData::init(const std::string& fileName) {
         return;
     }
     if (!FileExists(fileName) && !FolderExists(GetFolderOfPath(fileName))) {
-        glbLog.log("Error in cData class - trying to initialise the file " + fileName +
-                       " but the directory does not exist",
-                   0);
+        glbLog.log(
+            "Error in cData class - trying to initialise the file " + fileName + " but the directory does not exist",
+            0);
         platform().MsgBox("Error in cData class - trying to initialise the file\r\n" + fileName +
                               "\r\nbut the directory does not exist",
                           vbOKOnly, "Folder does not exist");
@@ -51,7 +53,9 @@ void cData::Item(long index, const std::string& line) {
     lines_[static_cast<size_t>(index)] = line;
 }
 
-void cData::Sort() { SortTexts(lines_); }
+void cData::Sort() {
+    SortTexts(lines_);
+}
 
 void cData::Delete(long index) {
     platform().SetBusyCursor(true);
@@ -112,6 +116,7 @@ void cData::LoadFromFile() {
     }
     if (!FileExists(fname_)) {
         glbLog.log("file not found - " + fname_, 3);
+        count_ = 0;
         stamp_.clear();
         return;
     }
@@ -128,7 +133,9 @@ void cData::LoadFromFile() {
     stamp_ = stampOf(fname_);
 }
 
-bool cData::FileChangedOnDisk() const { return !fname_.empty() && stampOf(fname_) != stamp_; }
+bool cData::FileChangedOnDisk() const {
+    return !fname_.empty() && stampOf(fname_) != stamp_;
+}
 
 void cData::ReloadIfChangedOnDisk() {
     if (!FileChangedOnDisk()) return;
@@ -147,7 +154,9 @@ std::string cData::IdConvertToString(VbDate date, long number) const {
     return glbEvents.IdConvertToString(date, number);
 }
 
-int32_t cData::IdConvertToLong(const std::string& id) const { return glbEvents.IdConvertToLong(id); }
+int32_t cData::IdConvertToLong(const std::string& id) const {
+    return glbEvents.IdConvertToLong(id);
+}
 
 std::string cData::createNextID(VbDate date, const std::string& oldID) const {
     return glbEvents.createNextID(date, oldID);

@@ -53,7 +53,7 @@ public:
     /// each ended by CR LF.
     void SaveToFile();
     /// Reads the file's non-blank lines as they stand.  A missing file is logged and
-    /// leaves Count as it was, with an empty array.
+    /// leaves the table empty.
     void LoadFromFile();
 
     /// True when the file on disk is not the one the table last read or wrote: its
@@ -73,8 +73,7 @@ public:
     /// old sequence + 1 on the same date or 1 on another.  "" for an empty `oldID`.
     std::string createNextID(VbDate date, const std::string& oldID) const;
     /// The next free identifier of `date` in `file` (see cData.cpp for the rules).
-    std::string getUniqueID(const std::string& file, VbDate date,
-                            std::string_view delimiter = kFieldDelimiter) const;
+    std::string getUniqueID(const std::string& file, VbDate date, std::string_view delimiter = kFieldDelimiter) const;
 
 private:
     static std::string stampOf(const std::string& file);

@@ -22,8 +22,8 @@ namespace {
 using Field = std::string cNote::*;
 
 // The fields of the note line, in line order.
-constexpr std::array<Field, 8> kLineFields = {&cNote::ID,    &cNote::DateCreated, &cNote::DateModified,
-                                              &cNote::Reference, &cNote::Color, &cNote::Category,
+constexpr std::array<Field, 8> kLineFields = {&cNote::ID,        &cNote::DateCreated, &cNote::DateModified,
+                                              &cNote::Reference, &cNote::Color,       &cNote::Category,
                                               &cNote::Filename,  &cNote::title};
 
 struct ListCell {
@@ -43,9 +43,13 @@ constexpr std::array<ListCell, 8> kListCells = {{{&cNote::ID, "ID"},
 
 }  // namespace
 
-std::string NotesFolder() { return gStrDataPath + "notes\\"; }
+std::string NotesFolder() {
+    return gStrDataPath + "notes\\";
+}
 
-std::string cNote::BodyFile() const { return NotesFolder() + Filename; }
+std::string cNote::BodyFile() const {
+    return NotesFolder() + Filename;
+}
 
 void cNote::SetDefault() {
     ID.clear();
@@ -62,8 +66,8 @@ void cNote::SetDefault() {
 void cNote::CreateNewFileName() {
     if (!Filename.empty()) return;
     // Two notes of the same title keep two bodies.
-    Filename = FreeBodyName(
-        ReplaceLineBreaks(title.empty() ? FormatDate(Now(), "yyyymmdd-hhmmss") : Left(title, 80)) + ".txt");
+    Filename = FreeBodyName(ReplaceLineBreaks(title.empty() ? FormatDate(Now(), "yyyymmdd-hhmmss") : Left(title, 80)) +
+                            ".txt");
 }
 
 std::string cNote::FreeBodyName(const std::string& wanted) {

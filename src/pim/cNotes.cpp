@@ -27,13 +27,17 @@ void showNoteEditor() {
     dialog.Show(true);
 }
 
-std::string today() { return FormatDate(Today(), "yyyymmdd"); }
+std::string today() {
+    return FormatDate(Today(), "yyyymmdd");
+}
 
 void fillIfBlank(std::string& field, const std::string& value) {
     if (field.empty()) field = value;
 }
 
-std::string plusOne(const std::string& counter) { return CStr(Val(counter) + 1); }
+std::string plusOne(const std::string& counter) {
+    return CStr(Val(counter) + 1);
+}
 
 }  // namespace
 
@@ -85,8 +89,8 @@ void cNotes::Add(ListView& listControl, const cNote* note) {
     fillIfBlank(gCurrentNote.DateAccessed, today());
     fillIfBlank(gCurrentNote.DateModified, today());
     const std::string user = MyUserName();
-    for (std::string* field : {&gCurrentNote.UserAccessed, &gCurrentNote.UserCreated, &gCurrentNote.UserModified,
-                               &gCurrentNote.UserOwner})
+    for (std::string* field :
+         {&gCurrentNote.UserAccessed, &gCurrentNote.UserCreated, &gCurrentNote.UserModified, &gCurrentNote.UserOwner})
         fillIfBlank(*field, user);
     table_.Add(gCurrentNote.FormatRecordAsCSV(kFieldDelimiter, "\r\n"));
     table_.SaveToFile();
@@ -128,7 +132,9 @@ void cNotes::Delete(long& index) {
     platform().SetBusyCursor(false);
 }
 
-void cNotes::ImportFromFile(const std::string&) { platform().MsgBox("This is not yet done", vbOKOnly, ""); }
+void cNotes::ImportFromFile(const std::string&) {
+    platform().MsgBox("This is not yet done", vbOKOnly, "");
+}
 
 void cNotes::CreateNoteAndADDFromFile(const std::string& path, bool keepFileNameAsTitle) {
     cNote note;
@@ -160,9 +166,9 @@ void cNotes::RecreateNotesListFromNotesFolder(bool keepFileNameAsTitle) {
     table_.LoadFromFile();
     const std::vector<std::string> files = ListFolder(NotesFolder() + "*.*", false);
     for (const std::string& file : files) CreateNoteAndADDFromFile(NotesFolder() + file, keepFileNameAsTitle);
-    platform().MsgBox("Finished Adding " + CStr(static_cast<long>(files.size())) + " notes from the files in " +
-                          NotesFolder(),
-                      vbOKOnly, "");
+    platform().MsgBox(
+        "Finished Adding " + CStr(static_cast<long>(files.size())) + " notes from the files in " + NotesFolder(),
+        vbOKOnly, "");
 }
 
 cNote cNotes::FindByID(const std::string& id) {

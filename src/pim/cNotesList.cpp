@@ -51,8 +51,8 @@ void cNotes::Search(ListView& lvResults, const std::string& keyword) {
 void cNotes::AddToSearchResults(ListView& listControl, const cNote& note) {
     ListItem& item = listControl.ListItems.Add("- Note -");
     item.Tag = note.FormatRecordAsCSV(kFieldDelimiter, "");
-    for (const std::string& text : {std::string(" "), std::string(" "), std::string("Note"), note.title,
-                                    std::string("note")})
+    for (const std::string& text :
+         {std::string(" "), std::string(" "), std::string("Note"), note.title, std::string("note")})
         item.ListSubItems.Add(text);
     std::string colourName = note.Color;
     const OleColor colour = static_cast<OleColor>(glbConfig.GetColorFromString(colourName, false));
@@ -107,8 +107,8 @@ void cNotes::ExportToFile(std::string fileName) {
         if (Trim(line).empty()) continue;
         cNote note;
         note.CreateNoteFromTextLine(line, kFieldDelimiter);
-        page += "<TR><TD width=15%>" + note.DateCreated + "\r\n</td><TD width=85%>" + note.details +
-                "\r\n</td></tr>\r\n";
+        page +=
+            "<TR><TD width=15%>" + note.DateCreated + "\r\n</td><TD width=85%>" + note.details + "\r\n</td></tr>\r\n";
     }
     page += "</table>\r\n</BODY></HTML>\r\n";
     WriteWholeFile(fileName, page);

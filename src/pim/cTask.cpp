@@ -21,9 +21,9 @@ using Field = std::string cTask::*;
 
 // The fields of the task line, in line order.
 constexpr std::array<Field, 15> kLineFields = {
-    &cTask::ID,        &cTask::DateCreated, &cTask::Reference,  &cTask::timeCreated, &cTask::length,
-    &cTask::ActionID,  &cTask::ContactID,   &cTask::UrlID,      &cTask::JobToDoID,   &cTask::RemindDate,
-    &cTask::RemindTime, &cTask::Priority,   &cTask::status,     &cTask::ActionToPerform, &cTask::details};
+    &cTask::ID,         &cTask::DateCreated, &cTask::Reference, &cTask::timeCreated,     &cTask::length,
+    &cTask::ActionID,   &cTask::ContactID,   &cTask::UrlID,     &cTask::JobToDoID,       &cTask::RemindDate,
+    &cTask::RemindTime, &cTask::Priority,    &cTask::status,    &cTask::ActionToPerform, &cTask::details};
 
 struct ListCell {
     Field field;

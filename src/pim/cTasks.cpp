@@ -102,7 +102,9 @@ void cTasks::Delete(long& index) {
     platform().SetBusyCursor(false);
 }
 
-void cTasks::ImportFromFile(const std::string&) { platform().MsgBox("This is not yet done", vbOKOnly, ""); }
+void cTasks::ImportFromFile(const std::string&) {
+    platform().MsgBox("This is not yet done", vbOKOnly, "");
+}
 
 void cTasks::CreateTaskAndAddFromFile(const std::string& path) {
     cTask task;

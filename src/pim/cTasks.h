@@ -39,8 +39,7 @@ public:
     /// Writes the tasks as an HTML table to `fileName` (program folder + "task.htm"
     /// when empty): with the page's head and foot when `withHeader`, only active
     /// ones when `onlyActive`, the text alone when `brief`.  `title` is not used.
-    void ExportToFile(std::string fileName, const std::string& title, bool withHeader, bool onlyActive,
-                      bool brief);
+    void ExportToFile(std::string fileName, const std::string& title, bool withHeader, bool onlyActive, bool brief);
     void CreateSampleList() {}
     /// Adds a task to edit the file at `path`, which it launches.
     void CreateTaskAndAddFromFile(const std::string& path);

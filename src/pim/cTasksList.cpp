@@ -41,7 +41,9 @@ constexpr std::array<HeadingColumn, 15> kHeadingColumns = {{{"ID", &cDiaryRecord
                                                             {"PRIORITY", &cDiaryRecord::Priority},
                                                             {"STATUS", &cDiaryRecord::status}}};
 
-std::string today() { return FormatDate(Today(), "yyyymmdd"); }
+std::string today() {
+    return FormatDate(Today(), "yyyymmdd");
+}
 
 }  // namespace
 
@@ -114,8 +116,8 @@ void cTasks::Search(ListView& lvResults, const std::string& keyword) {
 void cTasks::AddToSearchResults(ListView& listControl, const cTask& task) {
     ListItem& item = listControl.ListItems.Add("- Task -");
     item.Tag = task.FormatRecordAsCSV(kFieldDelimiter, "");
-    for (const std::string& text : {task.DateCreated, task.timeCreated, std::string("Task"), task.details,
-                                    std::string("task")})
+    for (const std::string& text :
+         {task.DateCreated, task.timeCreated, std::string("Task"), task.details, std::string("task")})
         item.ListSubItems.Add(text);
     ListSubItem& kind = item.ListSubItems(3);
     const long cells = item.ListSubItems.Count();
