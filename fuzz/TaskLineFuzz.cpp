@@ -7,6 +7,7 @@
 
 #include "ScriptedPlatform.h"
 #include "controls/ListView.h"
+#include "diary/cDiaryRecord.h"
 #include "foundation/ProgramState.h"
 #include "pim/cTask.h"
 

@@ -56,7 +56,6 @@ void cTasks::Add(ListView& listControl, const cTask* task) {
     gCurrentTask = cTask();
     gCurrentTask.SetDefault();
     if (task == nullptr) {
-        gCurrentTask.SetDefault();
         showTaskEditor();
     } else {
         gCurrentTask = *task;

@@ -81,15 +81,6 @@ TEST_F(TableTest, AddMakesTheMissingFileAndEverySaveSortsAndDropsBlankLines) {
     EXPECT_EQ(ReadBytes(Data("table.dat")), "D200406050000\x1F\r\nN200406050001\x1F\r\n");
 }
 
-TEST_F(TableTest, ItemOutsideTheArrayReadsEmptyAndWritesNothing) {
-    Load({"a"});
-    table.Item(5, "x");
-    table.Item(-1, "x");
-    EXPECT_EQ(table.Item(5), "");
-    EXPECT_EQ(table.Item(-1), "");
-    EXPECT_EQ(Items(), (std::vector<std::string>{"a", ""}));
-}
-
 TEST_F(TableTest, NewIdentifiersFollowTheHighestOfTheDayInTheFile) {
     const VbDate june5 = DateSerial(2004, 6, 5);
     // file lines (none: no file), date, identifier
@@ -121,13 +112,6 @@ TEST_F(TableTest, AFreedHighestNumberIsGivenAgain) {
     table.Delete(2);  // the highest, at the top of the saved table
     EXPECT_EQ(ReadBytes(Data("table.dat")), "N200406050001\x1F\r\n");
     EXPECT_EQ(table.getUniqueID(Data("table.dat"), Today()), "N200406050002");
-}
-
-TEST_F(TableTest, IdentifierPartsAndAnEmptyOldIdentifier) {
-    EXPECT_EQ(table.IdConvertToString(DateSerial(2004, 6, 5), 42), "D200400000042");
-    EXPECT_EQ(table.IdConvertToLong("D200400000042"), 42);
-    EXPECT_EQ(table.createNextID(DateSerial(2004, 6, 5), "X200406050009"), "X200406050010");
-    EXPECT_EQ(table.createNextID(DateSerial(2004, 6, 5), ""), "");
 }
 
 TEST_F(TableTest, FilesThatCantBeUsedAreReported) {
