@@ -1,13 +1,14 @@
 #pragma once
-// The fixture of the task and note tests: a program folder with its data folder, the
-// clock at 2004-06-05 09:30:12, and helpers for lines, files and the two editors.
+// The fixture of the task and note tests: the event store's (a program folder with its
+// data folder, the clock at 2004-06-05 09:30:12, lines and files of the data folder),
+// with the hand-written data folder of tests/pim/golden and the two editors.
 
 #include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
 
-#include "ProgramFixture.h"
+#include "../diary/DiaryFixture.h"
 #include "config/clsConfigDiary.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -15,28 +16,11 @@
 
 namespace orbidex::test {
 
-class PimFixture : public ProgramFixture {
+class PimFixture : public DiaryFixture {
 protected:
     void SetUp() override {
-        ProgramFixture::SetUp();
+        DiaryFixture::SetUp();
         gStrTasksFile = Data("D_tasks.dat");
-    }
-
-    /// A file of the data folder.
-    std::string Data(const std::string& name) const { return DataPath() + name; }
-    /// Writes the lines, each ended by CR LF.
-    void WriteLines(const std::string& name, const std::vector<std::string>& lines) const {
-        std::string bytes;
-        for (const std::string& line : lines) bytes += line + "\r\n";
-        WriteBytes(Data(name), bytes);
-    }
-    std::vector<std::string> Lines(const std::string& name) const { return SplitLines(ReadBytes(Data(name))); }
-
-    /// The fields, each followed by 0x1F.
-    static std::string Line(const std::vector<std::string>& fields) {
-        std::string line;
-        for (const std::string& field : fields) line += field + "\x1F";
-        return line;
     }
 
     /// The text with each "|" as the byte 0x1F that closes a field and each "~" as the
