@@ -8,6 +8,7 @@
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
+#include "pim/cTasks.h"
 #include "screen/frmClientDiaryMain.h"
 
 namespace orbidex {
@@ -41,7 +42,7 @@ void cDiaryRecords::DisplayStats(frmClientDiaryMain& form, StatusBar& statusBar,
 
     form.Label1.Caption = " PC Usage - " + FormatMinutes(usageTime_) + " on " + CStr(usageEvents_) + " logged events";
     form.Label2.Caption =
-        " Tasks - " + CStr(form.lstTasks.ListCount()) + "  [approx: " + FormatMinutes(glbConfig.taskMinutes) + " ]";
+        " Tasks - " + CStr(glbTasks.CountActive()) + "  [approx: " + FormatMinutes(glbConfig.taskMinutes) + " ]";
 }
 
 std::string cDiaryRecords::ShowStats(const std::string& what, const std::string& searchText, long days,

@@ -5,6 +5,9 @@
 #include "diary/cDiaryRecurring.h"
 #include "foundation/ProgramState.h"
 #include "network/cComms.h"
+#include "pim/ListAndDetails.h"
+#include "pim/cNotes.h"
+#include "pim/cTasks.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
@@ -23,6 +26,12 @@ void ResetProgramObjects() {
     gCurrentEvent = cDiaryRecord();
     glbSearchEvent = cDiaryRecord();
     glbOldEvent = cDiaryRecord();
+    glbTasks = cTasks();
+    glbNotes = cNotes();
+    gCurrentTask = cTask();
+    gCurrentNote = cNote();
+    gNoteHeadings = cNote();
+    gListAndDetails = ListAndDetailsDefinition();
     ResetMainForm();
 }
 

@@ -11,6 +11,8 @@
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
 #include "foundation/clsPath.h"
+#include "pim/cNotes.h"
+#include "pim/cTasks.h"
 #include "platform/Platform.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
@@ -59,6 +61,18 @@ void loadDiary() {
     gCurrentEvent.TimeEvent = FormatDate(Now(), "hhmm");
 }
 
+// The task list and the note list, each read from its file.
+void loadTasksAndNotes() {
+    glbTasks.init(gStrTasksFile);
+    glbTasks.LoadFromFile();
+    gCurrentTask = cTask();
+    glbLog.log("TOK - Tasks setup", 0);
+    glbNotes.init(gStrDataPath + "allnotes.dat");
+    glbNotes.LoadFromFile();
+    gCurrentNote = cNote();
+    glbLog.log("TOK - Notes setup", 0);
+}
+
 // The command layer and the screen take the main window; the window opens on the
 // calendar.
 void buildMainWindow() {
@@ -102,6 +116,7 @@ void modMain(const std::string& networkKind) {
     openLog();
     readSettings();
     loadDiary();
+    loadTasksAndNotes();
     buildMainWindow();
     startSession();
     countDataFiles();

@@ -8,6 +8,8 @@
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
+#include "pim/cNotes.h"
+#include "pim/cTasks.h"
 #include "platform/Platform.h"
 #include "screen/frmClientDiaryMain.h"
 
@@ -186,6 +188,7 @@ void clsDiaryScreen::setUpTasks() {
              &form.Label2},
             false);
     form.lvCat.Tag = "TASK";
+    form.status.Panels(1).Text = CStr(glbTasks.CountActive()) + " of " + CStr(glbTasks.Count()) + " Tasks shown";
     for (Menu& entry : form.mnuTaskMenu) form.EnableEntry(entry, true);
     toolbarForMode("TASK");
 }
@@ -200,6 +203,7 @@ void clsDiaryScreen::setUpNotes() {
              &form.Label2},
             false);
     form.lvCat.Tag = "NOTE";
+    form.status.Panels(1).Text = CStr(glbNotes.Count()) + " Notes";
     toolbarForMode("NOTE");
 }
 

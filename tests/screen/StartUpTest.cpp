@@ -6,6 +6,10 @@
 #include "MainScreenFixture.h"
 #include "config/clsConfigDiary.h"
 #include "foundation/ProgramState.h"
+#include "foundation/VbString.h"
+#include "pim/cNotes.h"
+#include "pim/cTasks.h"
+#include "screen/clsDiaryScreen.h"
 
 using namespace orbidex;
 
@@ -41,4 +45,23 @@ TEST_F(StartUpTest, AClientPumpsEventsWithTheTimerStillOff) {
     ASSERT_FALSE(timerAtPump.empty());
     EXPECT_EQ(std::count(timerAtPump.begin(), timerAtPump.end(), true), 0);
     EXPECT_TRUE(Form().timerSecond.Enabled);
+}
+
+TEST_F(StartUpTest, TasksAndNotesAreLoadedBeforeTheWindowAndCountedOnIt) {
+    // "|" stands for the byte 0x1F that closes each field.
+    const auto lines = [](const std::string& text) { return Replace(text, "|", "\x1F"); };
+    WriteBytes(Stored("data\\D_tasks.dat"), lines("N200406050001|20040605||0900|30||||||||||Call Bob|\r\n"
+                                                  "N200406050002|20040605||0900|30||||||||Done||Pay Ann|\r\n"
+                                                  "N200406050003|20040605||0900|30||||||||||Fix the tap|\r\n"));
+    WriteBytes(Stored("data\\allnotes.dat"), lines("N200406050001||||||a.txt|a|\r\n"));
+    StartProgram();
+    EXPECT_EQ(glbTasks.Count(), 3);
+    EXPECT_EQ(glbNotes.Count(), 1);
+    EXPECT_EQ(logFrom("TOK - Tasks setup", 3),
+              (std::vector<std::string>{"TOK - Tasks setup", "TOK - Notes setup", "TOK - cmd.init"}));
+    EXPECT_EQ(Form().Label2.Caption().substr(0, 20), " Tasks - 2  [approx:");
+    glbScreen.SwitchMode("TASK");
+    EXPECT_EQ(Panel(1), "2 of 3 Tasks shown");
+    glbScreen.SwitchMode("NOTE");
+    EXPECT_EQ(Panel(1), "1 Notes");
 }

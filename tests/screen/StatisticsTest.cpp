@@ -5,6 +5,8 @@
 #include "CalendarFixture.h"
 #include "config/clsConfigDiary.h"
 #include "diary/cDiaryRecords.h"
+#include "foundation/VbString.h"
+#include "pim/cTasks.h"
 #include "screen/frmClientDiaryMain.h"
 
 using namespace orbidex;
@@ -17,8 +19,12 @@ protected:
 
 TEST_F(StatisticsTest, TheStatusBarAndLabelsTellWhatTheViewHolds) {
     const Event usage = With(E("20040607", "1000", "Typing", "75"), &Event::reference, "Edit");
-    MainForm().lstTasks.AddItem("one");
-    MainForm().lstTasks.AddItem("two");
+    // Two active tasks and a finished one.
+    WriteBytes(DataPath() + "D_tasks.dat", Replace("N1|20040607||0900|30||||||||||one|\r\n"
+                                                   "N2|20040607||0900|30||||||||||two|\r\n"
+                                                   "N3|20040607||0900|30||||||||Done||three|\r\n",
+                                                   "|", "\x1F"));
+    glbTasks.init(DataPath() + "D_tasks.dat");
     glbConfig.taskMinutes = 125;
     Show(June(7), {E("20040607", "0900", "Long", "90"), usage});
     EXPECT_EQ(std::make_pair(panel(1), panel(2)),
