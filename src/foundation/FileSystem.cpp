@@ -43,12 +43,21 @@ std::string joinNative(const std::string& folder, const std::string& name) {
     return folder + "/" + name;
 }
 
+// A relative path joined to the program's folder, so that no file lands in whatever
+// folder the process was started from.
+std::string fromProgramFolder(std::string native) {
+    if (native.empty() || native[0] == '/' || !PlatformInstalled()) return native;
+    const std::string folder = Replace(platform().ProgramFolder(), "\\", "/");
+    if (folder.empty() || folder[0] != '/') return native;
+    return joinNative(folder, native);
+}
+
 }  // namespace
 
 std::string ToStoredPath(std::string_view nativePath) { return Replace(nativePath, "/", "\\"); }
 
 std::string ToNativePath(std::string_view storedPath) {
-    const std::string native = Replace(storedPath, "\\", "/");
+    const std::string native = fromProgramFolder(Replace(storedPath, "\\", "/"));
     if (native.empty() || kindOf(native) != Kind::Missing) return native;
 
     const bool absolute = native[0] == '/';

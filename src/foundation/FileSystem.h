@@ -12,7 +12,9 @@
 namespace orbidex {
 
 /// "\" becomes "/", and every part of the path that exists in another case is taken
-/// in the case it has on disk.  The part that does not exist keeps the case given.
+/// in the case it has on disk.  The part that does not exist keeps the case given.  A
+/// path that does not start at the root counts from the program's folder, never from
+/// the working folder.
 std::string ToNativePath(std::string_view storedPath);
 
 /// A native path ("/" separators) in stored form.

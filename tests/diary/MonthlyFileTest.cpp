@@ -1,8 +1,10 @@
 // Naming, creating, loading and listing the monthly files.
+#include <filesystem>
 #include <tuple>
 
 #include "DiaryFixture.h"
 #include "EventLines.h"
+#include "TempFolder.h"
 #include "config/clsConfigDiary.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/FileSystem.h"
@@ -129,6 +131,21 @@ TEST_F(MonthlyFileTest, AnUnusableDataPathAsksForAFolderForTheNextStartOnly) {
     EXPECT_EQ(glbConfig.old_ReadINI("diary", "dataPath", Data("my.ini")), program + "\\");
     EXPECT_EQ(gStrDataPath, program + "data\\");
     EXPECT_EQ(gStrDiaryDataFile, program + "data\\D200406.dat");
+}
+
+TEST_F(MonthlyFileTest, AnEmptyOrRelativeDataPathCountsFromTheProgramFolderNeverTheWorkingFolder) {
+    const orbidex::test::TempFolder working;
+    const auto startedIn = std::filesystem::current_path();
+    std::filesystem::current_path(working.Native());
+    for (const std::string& path : {std::string(), std::string("data\\")}) {
+        gStrDataPath = path;
+        glbEvents.LoadDiaryData(June(5));
+        glbEvents.SaveDiaryArray(kFieldDelimiter, nullptr);
+        EXPECT_TRUE(FileExists(Stored(path + "D200406.dat"))) << "'" << path << "'";
+        EXPECT_TRUE(FileExists(Stored(path + "D200406.dat_NET"))) << "'" << path << "': saved and handed over";
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(working.Native()));
+    std::filesystem::current_path(startedIn);
 }
 
 TEST_F(MonthlyFileTest, ForeignBytesLoadAndSaveWithoutHarm) {
