@@ -89,7 +89,7 @@ void SafeFileCopy(const std::string& source, const std::string& destination, boo
         glbLog.log("SafeFileCopy Failed - source file doesnt exist: " + source);
         return;
     }
-    DeleteFile(destination);
+    // The copy replaces the destination in one step: a copy that fails leaves it whole.
     if (CopyFile(source, destination)) return;
     glbLog.log("SafeFileCopy Failed to copy " + source + " to " + destination);
     glbLog.pimlog(platform().ProgramFolder() + "\\err.log",
