@@ -100,6 +100,13 @@ void SafeFileCopy(const std::string& source, const std::string& destination, boo
     }
 }
 
+void ShowFileError(const std::string& source, const FileError& error) {
+    const std::string text =
+        "Error in " + source + " Error=" + CStr(static_cast<long>(error.number)) + " = " + error.description;
+    glbLog.log(text, 0);
+    platform().MsgBox(text, vbOKOnly + vbCritical, "");
+}
+
 bool MakePathAux(const std::string& path) {
     std::string full = path;
     if (Right(full, 1) != "\\") full += "\\";

@@ -174,6 +174,9 @@ TEST_F(MonthlyFileTest, AFolderWhereTheMonthsFileShouldBeLoadsNoEventsAndIsNever
     glbEvents.SaveDiaryArray(kFieldDelimiter, nullptr);
     EXPECT_TRUE(FolderExists(Data("D200406.dat")));
     EXPECT_FALSE(FileExists(Data("D200406.dat_NET"))) << "a failed write hands nothing over";
+    EXPECT_EQ(platform_.MessageTexts(),
+              std::vector<std::string>{"Error in SaveDiaryArray Error=75 = Path/File access error"});
+    EXPECT_TRUE(Logged("SaveDiaryArray could not write " + Data("D200406.dat") + " - it keeps its previous content"));
 
     cDiaryRecord event = glbEvents.events(0);
     glbEvents.AddDiaryRecord(event);
