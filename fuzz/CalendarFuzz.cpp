@@ -63,6 +63,7 @@ void drawAndClick(VbDate date, const uint8_t* cells) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     static test::ScriptedPlatform platform;
     static test::TempFolder folder;
+    platform.SetProgramFolder(folder.Stored());
     constexpr size_t kChoices = kSettingBytes + 1 + 2 * kClicks;
     if (size < kChoices) return 0;
     platform.SetProblemHandler([](const std::string&) {});  // unanswered questions count as Cancel

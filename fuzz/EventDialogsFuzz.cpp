@@ -1,6 +1,7 @@
 // Random bytes as the event line an editing dialog opens on: the event editor and
 // the reschedule dialog open and save whatever the line holds, and the saved event
-// is always one whole event line.
+// is always one whole event line.  The monthly files the saves make stay in a
+// temporary program folder.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -8,6 +9,7 @@
 #include <string>
 
 #include "ScriptedPlatform.h"
+#include "TempFolder.h"
 #include "config/clsConfigDiary.h"
 #include "diary/cDiaryRecord.h"
 #include "dialogs/frmEditEvent.h"
@@ -27,7 +29,10 @@ void checkOneLine(const orbidex::cDiaryRecord& event) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     static orbidex::test::ScriptedPlatform platform;
+    static orbidex::test::TempFolder folder;
+    platform.SetProgramFolder(folder.Stored());
     orbidex::SetPlatform(&platform);
+    orbidex::gStrDataPath = folder.Stored() + "\\";
     orbidex::gLogLevel = -2;  // nothing reaches a log file
     // A line of a file: it ends at the first line break.
     std::string line(reinterpret_cast<const char*>(data), size);

@@ -16,6 +16,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     static orbidex::test::ScriptedPlatform platform;
     static orbidex::test::TempFolder folder;
+    platform.SetProgramFolder(folder.Stored());
     platform.SetProblemHandler([](const std::string&) {});  // unanswered questions count as Cancel
     platform.ClearTranscript();
     orbidex::SetPlatform(&platform);

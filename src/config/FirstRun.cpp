@@ -4,12 +4,10 @@
 #include <utility>
 #include <vector>
 
-#include "config/PrivateProfile.h"
 #include "config/clsConfigDiary.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
-#include "foundation/cFileIO.h"
 #include "foundation/cLog.h"
 
 namespace orbidex {
@@ -28,11 +26,11 @@ std::string welcomeText() {
            "Click [YES] to connect to a server\r\n" + "Click [No] to run in Local mode";
 }
 
-// The comment lines and sections of a new settings file.  The defaults go into the
-// sections afterwards, each key at the end of its section, so these lines stay above
-// them.
-std::vector<std::string> defaultFileHeader(const std::string& createdLine) {
-    return {
+// The comment lines and sections of a new settings file, each line ended by CR LF.
+// The defaults go into the sections afterwards, each key at the end of its section,
+// so these lines stay above them.
+std::string defaultFileHeader(const std::string& createdLine) {
+    const std::vector<std::string> lines = {
         ";   ------------------------------------------------------------------",
         createdLine,
         ";   ------------------------------------------------------------------",
@@ -119,6 +117,9 @@ std::vector<std::string> defaultFileHeader(const std::string& createdLine) {
         "Top=100",
         " ",
     };
+    std::string text;
+    for (const std::string& line : lines) text += line + "\r\n";
+    return text;
 }
 
 // The column captions of a new file: every field hidden but those given.
@@ -148,13 +149,15 @@ void clsConfigDiary::StartingForFirstTime() {
         if (answer == vbCancel) platform().EndProgram(0);
     }
 
+    // The defaults and the answer gather in memory and reach the file in one write.
+    newFile_.emplace("");
     CreateDefaultIniFile();
 
     if (answer == vbYes) {
         const std::string serverPath = DetectNetworkPath();
         // Written straight to the file and once more through the object.
         auto writeTwice = [this](const std::string& section, const std::string& key, const std::string& value) {
-            WritePrivateProfileString(section, key, value, gStrIniFile);
+            writeKey(section, key, value, gStrIniFile);
             SetVal(section, key, value);
         };
         writeTwice("Network", "runLocalModeOnly", "0");
@@ -164,6 +167,7 @@ void clsConfigDiary::StartingForFirstTime() {
     } else {
         SetVal("Network", "runLocalModeOnly", "1");
     }
+    writeNewFile();
 }
 
 std::string clsConfigDiary::DetectNetworkPath() {
@@ -177,20 +181,20 @@ void clsConfigDiary::CreateDefaultIniFile() {
     gBoolNewIniFile = true;
     const std::string createdLine =
         ";     orbidex.ini - created by " + platform().ExeName() + " on " + FormatDate(Now(), "dd-MMM-yyyy hh:mm:ss");
-    cFileIO file;
-    file.init(fname);
-    file.OpenFile("OUTPUT");
-    for (const std::string& line : defaultFileHeader(createdLine)) file.printLine(line);
-    file.closeFile();
+    // Within the first run the file is written once the answer is in.
+    const bool withinFirstRun = newFile_.has_value();
+    newFile_.emplace(defaultFileHeader(createdLine));
 
-    WritePrivateProfileString("Network", "runLocalModeOnly", "0", fname);
-    WritePrivateProfileString("network", "security", "3", fname);
-    WritePrivateProfileString("network", "waitTime", "12", fname);
-    WritePrivateProfileString("diary", "dataPath", platform().ProgramFolder() + "\\data\\", fname);
+    writeKey("Network", "runLocalModeOnly", "0", fname);
+    writeKey("network", "security", "3", fname);
+    writeKey("network", "waitTime", "12", fname);
+    writeKey("diary", "dataPath", platform().ProgramFolder() + "\\data\\", fname);
 
     UpdateDefaultDiarySettings();
     UpdateDefaultTessalineSettings();
     UpdateDefaultIniColours();
+
+    if (!withinFirstRun) writeNewFile();
 }
 
 void clsConfigDiary::UpdateDefaultDiarySettings() {

@@ -2,7 +2,6 @@
 // colour names of the notes.
 #include <limits>
 
-#include "config/PrivateProfile.h"
 #include "config/clsConfigDiary.h"
 #include "controls/ComboBox.h"
 #include "controls/Form.h"
@@ -75,12 +74,12 @@ void clsConfigDiary::SaveFormSettings(const Form& form, const std::string& iniFi
     const std::string& section = form.Name();
     // A maximised or minimised window leaves its last normal place in the file.
     if (form.WindowState == 0) {
-        WritePrivateProfileString(section, "Height", Trim(CStr(form.Height)), iniFile);
-        WritePrivateProfileString(section, "Width", Trim(CStr(form.Width)), iniFile);
-        WritePrivateProfileString(section, "Left", Trim(CStr(form.Left)), iniFile);
-        WritePrivateProfileString(section, "Top", Trim(CStr(form.Top)), iniFile);
+        writeKey(section, "Height", Trim(CStr(form.Height)), iniFile);
+        writeKey(section, "Width", Trim(CStr(form.Width)), iniFile);
+        writeKey(section, "Left", Trim(CStr(form.Left)), iniFile);
+        writeKey(section, "Top", Trim(CStr(form.Top)), iniFile);
     }
-    WritePrivateProfileString(section, "WindowState", CStr(form.WindowState), iniFile);
+    writeKey(section, "WindowState", CStr(form.WindowState), iniFile);
 }
 
 void clsConfigDiary::BuildColorList(ComboBox& combo) {

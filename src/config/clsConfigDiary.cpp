@@ -62,7 +62,29 @@ std::string clsConfigDiary::GetValue(const std::string& section, const std::stri
 }
 
 void clsConfigDiary::SetVal(const std::string& section, const std::string& key, const std::string& value) {
-    WritePrivateProfileString(section, key, value, fname);
+    writeKey(section, key, value, fname);
+}
+
+bool clsConfigDiary::writeKey(const std::string& section, const std::string& key, const std::string& value,
+                              const std::string& file) {
+    if (newFile_ && file == fname) {
+        newFile_->Set(section, key, value);
+        return true;
+    }
+    // A key written into a missing file would make a settings file without its
+    // defaults, and the next start would not run the first run.
+    if (FileExists(file) && WritePrivateProfileString(section, key, value, file)) return true;
+    glbLog.log("Warning - failed to write INI :file=" + file + "    sect=" + section + "   key=" + key, 0);
+    return false;
+}
+
+void clsConfigDiary::writeNewFile() {
+    const std::string text = newFile_->Text();
+    newFile_.reset();
+    FileError error;
+    if (WriteWholeFile(fname, text, &error)) return;
+    glbLog.log("The settings file " + fname + " could not be written (" + error.description + ") - it stays as it was",
+               0);
 }
 
 std::string clsConfigDiary::old_ReadINI(const std::string& section, const std::string& key, const std::string& file) {

@@ -6,10 +6,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "config/IniDocument.h"
 #include "diary/cDiaryRecord.h"
 #include "screen/clsTimeSlots.h"
 
@@ -98,7 +100,8 @@ public:
     /// One key of the settings file, read from the file (missing and empty are the
     /// same: "" and a warning in the log at level 3).
     std::string GetValue(const std::string& section, const std::string& key);
-    /// Writes one key to the settings file at once; the result is not checked.
+    /// Writes one key to the settings file at once; the result is not checked.  Only
+    /// the first run makes the settings file: a key for a missing file is not written.
     void SetVal(const std::string& section, const std::string& key, const std::string& value);
     /// The same read as GetValue, on any INI file.
     std::string old_ReadINI(const std::string& section, const std::string& key, const std::string& file);
@@ -134,9 +137,11 @@ public:
 
     // The first start, when there is no settings file.
     /// Asks a client whether to connect to a server (Cancel ends the program), writes
-    /// the default file and the choice.
+    /// the default file and the choice, all in one write: a first run that cannot
+    /// write leaves no file, and the next start runs it again.
     void StartingForFirstTime();
-    /// Writes the settings file anew: its comment header, then every default.
+    /// Writes the settings file anew, in one write: its comment header, then every
+    /// default.
     void CreateDefaultIniFile();
     void UpdateDefaultDiarySettings();
     void UpdateDefaultTessalineSettings();
@@ -155,6 +160,15 @@ private:
     void readHeadings(const std::string& section, cDiaryRecord& record);
     void readCalendarAndView();
     void setEach(const std::string& section, const std::vector<std::pair<std::string, std::string>>& values);
+    /// Writes one key into an existing INI file, or into the new settings file while
+    /// it is being made; a failure is logged.
+    bool writeKey(const std::string& section, const std::string& key, const std::string& value,
+                  const std::string& file);
+    /// Writes the settings file that was being made, and ends its making.
+    void writeNewFile();
+
+    /// The settings file being made: its keys gather here until it is written whole.
+    std::optional<IniDocument> newFile_;
 };
 
 extern clsConfigDiary glbConfig;

@@ -1,6 +1,7 @@
 // Writing the array back: the single-month save with its sort and guards, the
 // two-month save, and the dump of everything in memory.
 #include "diary/cDiaryRecords.h"
+#include "foundation/FileHelpers.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
 #include "foundation/StringHelpers.h"
@@ -19,6 +20,16 @@ const char* const kSaveRule = "-----------------------------------------";
 // The two characters before ".dat": the month of a monthly file's name.
 std::string monthOfFileName(const std::string& file) {
     return Mid(file, Len(file) - 5, 2);
+}
+
+// Replaces the file's content; a failure is logged and shown, and the file keeps
+// what it held.
+bool writeReported(const std::string& source, const std::string& file, const std::string& content) {
+    FileError error;
+    if (WriteWholeFile(file, content, &error)) return true;
+    glbLog.log(source + " could not write " + file + " - it keeps its previous content", 0);
+    ShowFileError(source, error);
+    return false;
 }
 
 }  // namespace
@@ -52,7 +63,7 @@ void cDiaryRecords::SaveDiaryArray(std::string_view, frmClientDiaryMain* mainFor
             content += line + "\r\n";
             ++count;
         }
-        if (!WriteWholeFile(file, content)) return;
+        if (!writeReported("SaveDiaryArray", file, content)) return;
         glbLog.log("SaveDiaryData saved " + CStr(count) + " records to " + file, 3);
     }
     glbComms.SaveDiaryFileToServer(gStrDiaryDataFile, false);
@@ -127,14 +138,17 @@ void cDiaryRecords::SaveMultipleMonthsDiaryDataToDisk() {
             ++secondCount;
         }
     }
-    WriteWholeFile(gStrFirstDatafile, first);
-    WriteWholeFile(gStrSecondDatafile, second);
+    const char* const source = "SaveMultipleMonthsDiaryDataToDisk";
+    const bool firstWritten = writeReported(source, gStrFirstDatafile, first);
+    const bool secondWritten = writeReported(source, gStrSecondDatafile, second);
     // The counts have always been paired with the files this way round.
-    glbLog.log("SaveMultipleMonthsDiaryDataToDisk saved " + CStr(firstCount) + " records to " + gStrSecondDatafile +
-                   " and  " + CStr(secondCount) + " records to " + gStrFirstDatafile,
-               3);
-    glbComms.SaveDiaryFileToServer(gStrFirstDatafile, false);
-    glbComms.SaveDiaryFileToServer(gStrSecondDatafile, false);
+    if (firstWritten && secondWritten)
+        glbLog.log("SaveMultipleMonthsDiaryDataToDisk saved " + CStr(firstCount) + " records to " + gStrSecondDatafile +
+                       " and  " + CStr(secondCount) + " records to " + gStrFirstDatafile,
+                   3);
+    // A file that could not be written has nothing new to hand over.
+    if (firstWritten) glbComms.SaveDiaryFileToServer(gStrFirstDatafile, false);
+    if (secondWritten) glbComms.SaveDiaryFileToServer(gStrSecondDatafile, false);
 }
 
 void cDiaryRecords::SaveDumpOfDiaryRecords() {
@@ -147,7 +161,7 @@ void cDiaryRecords::SaveDumpOfDiaryRecords() {
         content += line + "\r\n";
         ++count;
     }
-    if (!WriteWholeFile(file, content)) return;
+    if (!writeReported("SaveDumpOfDiaryRecords", file, content)) return;
     platform().MsgBox("Saved " + CStr(count) + " records to the file " + file + "\r\nYou can now re-index the database",
                       vbOKOnly, "Dump Memory Completed");
 }

@@ -89,7 +89,7 @@ void SafeFileCopy(const std::string& source, const std::string& destination, boo
         glbLog.log("SafeFileCopy Failed - source file doesnt exist: " + source);
         return;
     }
-    DeleteFile(destination);
+    // The copy replaces the destination in one step: a copy that fails leaves it whole.
     if (CopyFile(source, destination)) return;
     glbLog.log("SafeFileCopy Failed to copy " + source + " to " + destination);
     glbLog.pimlog(platform().ProgramFolder() + "\\err.log",
@@ -98,6 +98,13 @@ void SafeFileCopy(const std::string& source, const std::string& destination, boo
         platform().MsgBox("Error copying the file \r\n" + source + "  to \r\n" + destination, vbOKOnly,
                           "Error in SafeFileCopy");
     }
+}
+
+void ShowFileError(const std::string& source, const FileError& error) {
+    const std::string text =
+        "Error in " + source + " Error=" + CStr(static_cast<long>(error.number)) + " = " + error.description;
+    glbLog.log(text, 0);
+    platform().MsgBox(text, vbOKOnly + vbCritical, "");
 }
 
 bool MakePathAux(const std::string& path) {

@@ -7,6 +7,8 @@
 
 namespace orbidex {
 
+struct FileError;
+
 /// Text after the last "\"; "" if there is none.
 std::string GetFileNameOnly(const std::string& path);
 /// Text up to and including the last "\"; "" if there is none.
@@ -33,6 +35,9 @@ std::string GetWindowsFolder();
 /// Copies `source` over `destination`, keeping the old destination as ".BAK" unless
 /// `noBackup`.  Reports failure through the logs and, if asked, a message.
 void SafeFileCopy(const std::string& source, const std::string& destination, bool noBackup, bool showMessage);
+/// The report of a failed file operation that the user must see: logs and shows
+/// "Error in " + source + " Error=" + number + " = " + description.
+void ShowFileError(const std::string& source, const FileError& error);
 /// Makes every missing folder of the path; always true.
 bool MakePathAux(const std::string& path);
 

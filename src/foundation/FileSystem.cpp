@@ -1,6 +1,8 @@
 #include "foundation/FileSystem.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <chrono>
@@ -43,12 +45,21 @@ std::string joinNative(const std::string& folder, const std::string& name) {
     return folder + "/" + name;
 }
 
+// A relative path joined to the program's folder, so that no file lands in whatever
+// folder the process was started from.
+std::string fromProgramFolder(std::string native) {
+    if (native.empty() || native[0] == '/' || !PlatformInstalled()) return native;
+    const std::string folder = Replace(platform().ProgramFolder(), "\\", "/");
+    if (folder.empty() || folder[0] != '/') return native;
+    return joinNative(folder, native);
+}
+
 }  // namespace
 
 std::string ToStoredPath(std::string_view nativePath) { return Replace(nativePath, "/", "\\"); }
 
 std::string ToNativePath(std::string_view storedPath) {
-    const std::string native = Replace(storedPath, "\\", "/");
+    const std::string native = fromProgramFolder(Replace(storedPath, "\\", "/"));
     if (native.empty() || kindOf(native) != Kind::Missing) return native;
 
     const bool absolute = native[0] == '/';
@@ -174,13 +185,129 @@ bool ReadWholeFile(std::string_view storedPath, std::string& bytes) {
     return !in.bad();
 }
 
-bool WriteWholeFile(std::string_view storedPath, std::string_view bytes) {
-    const std::string native = ToNativePath(storedPath);
-    if (kindOf(native) == Kind::Folder) return false;
-    std::ofstream out(native, std::ios::binary | std::ios::trunc);
-    if (!out) return false;
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    return static_cast<bool>(out);
+namespace {
+
+// The error numbers and descriptions of the program's messages for a system error.
+FileError fileErrorOf(int code) {
+    switch (code) {
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            return {61, "Disk full"};
+        case EACCES:
+        case EPERM:
+        case EROFS:
+        case ETXTBSY:
+            return {70, "Permission denied"};
+        case ENOENT:
+        case ENOTDIR:
+            return {76, "Path not found"};
+        case EIO:
+            return {57, "Device I/O error"};
+        default:
+            return {75, "Path/File access error"};
+    }
+}
+
+bool failWith(FileError* error, int code) {
+    if (error != nullptr) *error = fileErrorOf(code);
+    return false;
+}
+
+std::string folderOfNative(const std::string& native) {
+    const size_t cut = native.rfind('/');
+    if (cut == std::string::npos) return ".";
+    return cut == 0 ? "/" : native.substr(0, cut);
+}
+
+// A new, empty file beside `native` that no other writer uses; -1 when none can be made.
+int createTemporaryBeside(const std::string& native, std::string& temporary) {
+    static unsigned counter = 0;
+    const size_t cut = native.rfind('/');
+    const std::string folder = cut == std::string::npos ? "" : native.substr(0, cut + 1);
+    const std::string name = cut == std::string::npos ? native : native.substr(cut + 1);
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        // A leading dot keeps it out of the folder listings that look for data files.
+        temporary = folder + "." + name + "." + std::to_string(::getpid()) + "-" + std::to_string(++counter);
+        const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (fd >= 0 || errno != EEXIST) return fd;
+    }
+    return -1;
+}
+
+bool writeAll(int fd, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(fd, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written <= 0) {
+            if (written == 0) errno = ENOSPC;
+            return false;
+        }
+        bytes.remove_prefix(static_cast<size_t>(written));
+    }
+    return true;
+}
+
+// The new file takes the place of the old one with its permissions and, where the
+// system allows, its owner.
+bool takeOverAttributes(int fd, const std::string& native) {
+    struct stat old {};
+    if (::stat(native.c_str(), &old) != 0) return true;
+    [[maybe_unused]] const int ignored = ::fchown(fd, old.st_uid, old.st_gid);
+    return ::fchmod(fd, old.st_mode & 07777) == 0;
+}
+
+// Makes the rename itself reach the disk.  Some file systems refuse this for folders;
+// the file is whole either way.
+void syncFolder(const std::string& folder) {
+    const int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0) return;
+    ::fsync(fd);
+    ::close(fd);
+}
+
+}  // namespace
+
+bool WriteWholeFile(std::string_view storedPath, std::string_view bytes, FileError* error) {
+    std::string native = ToNativePath(storedPath);
+    switch (kindOf(native)) {
+        case Kind::Missing:
+            if (native.empty()) return failWith(error, ENOENT);
+            break;
+        case Kind::File: {
+            // A file the user made read-only stays as it is.
+            if (::access(native.c_str(), W_OK) != 0) return failWith(error, errno);
+            // A link keeps pointing at the file, which is replaced where it lies.
+            std::error_code ec;
+            const fs::path target = fs::canonical(native, ec);
+            if (!ec) native = target.string();
+            break;
+        }
+        case Kind::Folder:
+            return failWith(error, EISDIR);
+        case Kind::Other:
+            return failWith(error, EINVAL);
+    }
+
+    std::string temporary;
+    const int fd = createTemporaryBeside(native, temporary);
+    if (fd < 0) return failWith(error, errno);
+    bool written = takeOverAttributes(fd, native) && writeAll(fd, bytes) && ::fsync(fd) == 0;
+    int code = errno;
+    if (::close(fd) != 0 && written) {
+        written = false;
+        code = errno;
+    }
+    if (written && ::rename(temporary.c_str(), native.c_str()) != 0) {
+        written = false;
+        code = errno;
+    }
+    if (!written) {
+        ::unlink(temporary.c_str());
+        return failWith(error, code);
+    }
+    syncFolder(folderOfNative(native));
+    return true;
 }
 
 bool AppendToFile(std::string_view storedPath, std::string_view bytes) {

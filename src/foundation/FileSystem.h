@@ -12,7 +12,9 @@
 namespace orbidex {
 
 /// "\" becomes "/", and every part of the path that exists in another case is taken
-/// in the case it has on disk.  The part that does not exist keeps the case given.
+/// in the case it has on disk.  The part that does not exist keeps the case given.  A
+/// path that does not start at the root counts from the program's folder, never from
+/// the working folder.
 std::string ToNativePath(std::string_view storedPath);
 
 /// A native path ("/" separators) in stored form.
@@ -41,9 +43,22 @@ bool FileTimeStamp(std::string_view storedPath, VbDate& stamp);
 /// With `includeFolders` folders are listed too, otherwise only plain files.
 std::vector<std::string> ListFolder(std::string_view storedPattern, bool includeFolders);
 
-/// Whole-file reads and writes of bytes; false on any failure.
+/// Why a write failed, as the program's error messages tell it: a number and its
+/// description (61, "Disk full").
+struct FileError {
+    int number = 0;
+    std::string description;
+};
+
+/// The whole file as bytes; false on any failure.
 bool ReadWholeFile(std::string_view storedPath, std::string& bytes);
-bool WriteWholeFile(std::string_view storedPath, std::string_view bytes);
+/// Replaces the file's content with `bytes`, so that at every moment the file holds
+/// either its old content or the whole new one: the bytes go to a temporary file in
+/// the same folder, reach the disk, and that file is renamed over the name.  A write
+/// that fails leaves the old file as it was and tells why in `error`.  Every file the
+/// program rewrites whole is written here.
+bool WriteWholeFile(std::string_view storedPath, std::string_view bytes, FileError* error = nullptr);
+/// Adds bytes at the end of the file, making it when it is missing; false on failure.
 bool AppendToFile(std::string_view storedPath, std::string_view bytes);
 
 /// The lines of a text, cut at CR LF, at a lone CR or at a lone LF.  A last line

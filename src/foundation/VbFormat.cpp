@@ -228,8 +228,20 @@ bool allDigits(std::string_view s) {
     return true;
 }
 
+// The value of a run of digits, held at 99999 so that no run is too long to read: a
+// date or time part that large is no valid part anyway.
+int digitsValue(std::string_view digits) {
+    constexpr int kMost = 99999;
+    int value = 0;
+    for (char c : digits) {
+        value = value * 10 + (c - '0');
+        if (value > kMost) return kMost;
+    }
+    return value;
+}
+
 int fullYear(const std::string& y) {
-    const int v = std::stoi(y);
+    const int v = digitsValue(y);
     if (y.size() > 2) return v;
     return v < 30 ? 2000 + v : 1900 + v;  // VB's two-digit year window
 }
@@ -239,7 +251,7 @@ bool validDate(int y, int m, int d) { return m >= 1 && m <= 12 && d >= 1 && d <=
 bool parseDatePart(std::string_view text, VbDate& out) {
     std::string s(text);
     if (allDigits(s) && s.size() == 8) {
-        const int y = std::stoi(s.substr(0, 4)), m = std::stoi(s.substr(4, 2)), d = std::stoi(s.substr(6, 2));
+        const int y = digitsValue(s.substr(0, 4)), m = digitsValue(s.substr(4, 2)), d = digitsValue(s.substr(6, 2));
         if (!validDate(y, m, d)) return false;
         out = DateSerial(y, m, d);
         return true;
@@ -252,12 +264,12 @@ bool parseDatePart(std::string_view text, VbDate& out) {
     if (parts.size() != 3) return false;
     int y = 0, m = 0, d = 0;
     if (allDigits(parts[0]) && parts[0].size() == 4 && allDigits(parts[1]) && allDigits(parts[2])) {
-        y = std::stoi(parts[0]);  // yyyy-mm-dd
-        m = std::stoi(parts[1]);
-        d = std::stoi(parts[2]);
+        y = digitsValue(parts[0]);  // yyyy-mm-dd
+        m = digitsValue(parts[1]);
+        d = digitsValue(parts[2]);
     } else if (allDigits(parts[0]) && allDigits(parts[2]) && parts[0].size() <= 2 && parts[2].size() <= 4) {
-        d = std::stoi(parts[0]);
-        m = allDigits(parts[1]) && parts[1].size() <= 2 ? std::stoi(parts[1]) : monthFromName(parts[1]);
+        d = digitsValue(parts[0]);
+        m = allDigits(parts[1]) && parts[1].size() <= 2 ? digitsValue(parts[1]) : monthFromName(parts[1]);
         y = fullYear(parts[2]);
     } else {
         return false;
@@ -279,9 +291,9 @@ bool parseTimePart(std::string_view text, VbDate& out) {
     if (parts.size() < 2 || parts.size() > 3) return false;
     for (const std::string& p : parts)
         if (!allDigits(p) || p.size() > 2) return false;
-    int h = std::stoi(parts[0]);
-    const int m = std::stoi(parts[1]);
-    const int sec = parts.size() == 3 ? std::stoi(parts[2]) : 0;
+    int h = digitsValue(parts[0]);
+    const int m = digitsValue(parts[1]);
+    const int sec = parts.size() == 3 ? digitsValue(parts[2]) : 0;
     if ((am || pm) && (h < 1 || h > 12)) return false;
     if (pm && h < 12) h += 12;
     if (am && h == 12) h = 0;

@@ -7,6 +7,17 @@
 
 namespace orbidex {
 
+namespace {
+
+// The folder a new file of this name would stand in exists.  A name without a folder
+// lies in the program's folder.
+bool folderExistsFor(const std::string& name) {
+    const long cut = InStrRev(name, "\\");
+    return cut <= 1 || FolderExists(Left(name, cut - 1));
+}
+
+}  // namespace
+
 cFileIO::~cFileIO() { closeFile(); }
 
 bool cFileIO::Exists() const { return FileExists(fname); }
@@ -23,9 +34,12 @@ void cFileIO::OpenFile(const std::string& method) {
     bool opened = false;
     if (how == "INPUT") {
         opened = tryOpenForInput();
-    } else if (how == "OUTPUT" || how == "APPEND") {
-        const std::string native = ToNativePath(fname);
-        if (!FolderExists(fname)) handle_ = std::fopen(native.c_str(), how == "OUTPUT" ? "wb" : "ab");
+    } else if (how == "OUTPUT") {
+        output_ = !FolderExists(fname) && folderExistsFor(fname);
+        outputText_.clear();
+        opened = output_;
+    } else if (how == "APPEND") {
+        if (!FolderExists(fname)) handle_ = std::fopen(ToNativePath(fname).c_str(), "ab");
         opened = handle_ != nullptr;
     } else {
         platform().MsgBox("Invalid method of opening file", vbOKOnly, "");
@@ -39,13 +53,17 @@ void cFileIO::OpenFile(const std::string& method) {
 }
 
 void cFileIO::printLine(const std::string& text) {
+    if (output_) {
+        outputText_ += text + "\r\n";
+        return;
+    }
     if (handle_ == nullptr) return;
     std::fwrite(text.data(), 1, text.size(), handle_);
     std::fwrite("\r\n", 1, 2, handle_);
 }
 
 void cFileIO::appendLine(const std::string& text) {
-    if (isOpen_ && handle_ != nullptr) {
+    if (isOpen_ && (handle_ != nullptr || output_)) {
         printLine(text);
         return;
     }
@@ -76,10 +94,15 @@ std::string cFileIO::getLine() {
     return line;
 }
 
-void cFileIO::closeFile() {
+bool cFileIO::closeFile() {
+    bool written = true;
+    if (output_) written = WriteWholeFile(fname, outputText_);
+    output_ = false;
+    outputText_.clear();
     if (handle_ != nullptr) std::fclose(handle_);
     handle_ = nullptr;
     isOpen_ = false;
+    return written;
 }
 
 void cFileIO::Clear() { DeleteFile(fname); }

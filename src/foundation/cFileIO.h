@@ -1,6 +1,7 @@
 #pragma once
 // A small object around one text file, read and written line by line.  Lines end in
-// CR LF.  Failures never raise: they leave the flags as they were.
+// CR LF.  Failures never raise: they leave the flags as they were.  A file opened for
+// output is rewritten whole when it is closed, so that it never stands half written.
 
 #include <cstdio>
 #include <string>
@@ -20,7 +21,8 @@ public:
     /// True if a plain file of this name exists.
     bool Exists() const;
     /// "APPEND", "OUTPUT" or "INPUT", in any case.  Any other word shows "Invalid
-    /// method of opening file".  A failed open leaves the flags as they were.
+    /// method of opening file".  A failed open leaves the flags as they were.  The lines
+    /// printed after "OUTPUT" replace the file at closeFile.
     void OpenFile(const std::string& method);
     void printLine(const std::string& text);
     /// Writes to the open file, or opens for appending, writes and closes.
@@ -28,7 +30,9 @@ public:
     /// The next line; at the end of the file "" and moreData() turns false, so a
     /// reader that loops on moreData() sees one extra empty line.
     std::string getLine();
-    void closeFile();
+    /// Closes the file; after "OUTPUT" the file is replaced by the lines printed.  False
+    /// when that replacement fails, and the file then keeps what it held.
+    bool closeFile();
     /// Deletes the file; failures are ignored.
     void Clear();
     bool moreData() const { return moreData_; }
@@ -44,6 +48,8 @@ private:
     bool tryOpenForInput();
 
     std::FILE* handle_ = nullptr;
+    bool output_ = false;  ///< opened for "OUTPUT": the lines gather in outputText_
+    std::string outputText_;
     bool moreData_ = false;
     bool isOpen_ = false;
 };

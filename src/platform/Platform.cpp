@@ -19,4 +19,6 @@ Platform& platform() {
     return *gPlatform;
 }
 
+bool PlatformInstalled() { return gPlatform != nullptr; }
+
 }  // namespace orbidex

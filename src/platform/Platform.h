@@ -106,5 +106,7 @@ public:
 void SetPlatform(Platform* platform);
 /// The platform in use.  Calling it before SetPlatform is a programming error.
 Platform& platform();
+/// True once a platform is installed.
+bool PlatformInstalled();
 
 }  // namespace orbidex

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <csignal>
 
+#include "ChildProcess.h"
 #include "SettingsFixture.h"
+#include "screen/frmClientDiaryMain.h"
 
 using namespace orbidex;
 
@@ -102,4 +105,53 @@ TEST_F(FirstRunTest, RestoringTheDefaultsRewritesTheWholeFile) {
     glbConfig.CreateDefaultIniFile();
     // Without the first run's answer the file says it may use a server.
     EXPECT_EQ(IniText(), Replace(Golden("first_run_local.ini"), "runLocalModeOnly=1", "runLocalModeOnly=0"));
+}
+
+TEST_F(FirstRunTest, AFirstRunThatCannotWriteLeavesNoFileAndTheNextStartAsksAgain) {
+    NETWORK_STRING = "CLIENT";
+    // The disk is full a kilobyte into the new file.
+    const auto end = orbidex::test::RunInChild(
+        [this] {
+            platform_.QueueMsgBoxAnswer(vbNo);
+            glbConfig.ReadAllSettings();
+            return static_cast<int>(platform_.Transcript().size());
+        },
+        {1024, false});
+    EXPECT_EQ(end.exitCode, 1) << "the welcome question, and nothing else";
+    EXPECT_FALSE(FileExists(IniPath()));
+    EXPECT_EQ(ListFolder(DataPath() + "*", false), std::vector<std::string>{"OX_LOG.log"})
+        << "nothing half written stays behind";
+    const auto log = LogMessages();
+    const std::string startUpName = Stored("data\\\\orbidex.ini");  // as the start-up names it
+    EXPECT_NE(std::find(log.begin(), log.end(),
+                        "The settings file " + startUpName + " could not be written (Disk full) - it stays as it was"),
+              log.end());
+
+    // The rest of that run writes no key into a file of its own making.
+    glbConfig.fname = gStrIniFile;
+    glbConfig.SetVal("calendar", "GridOrList", "LIST");
+    glbConfig.SaveFormSettings(MainForm(), gStrIniFile);
+    EXPECT_FALSE(FileExists(IniPath()));
+    EXPECT_EQ(LogMessages().back(),
+              "Warning - failed to write INI :file=" + gStrIniFile + "    sect=frmClientDiaryMain   key=WindowState");
+
+    platform_.QueueMsgBoxAnswer(vbNo);
+    glbConfig.ReadAllSettings();
+    ASSERT_EQ(platform_.Transcript().size(), 1U);
+    EXPECT_EQ(platform_.Transcript()[0].title, "Welcome to Brindlewick Softwares Orbidex Client");
+    EXPECT_EQ(IniText(), Golden("first_run_local.ini"));
+}
+
+TEST_F(FirstRunTest, ACrashWhileTheFileIsWrittenLeavesNoFile) {
+    for (long long stop : {0LL, 1LL, 512LL, 2048LL}) {
+        const auto end = orbidex::test::RunInChild(
+            [] {
+                gLogLevel = -2;
+                glbConfig.ReadAllSettings();
+                return 0;
+            },
+            {stop, true});
+        EXPECT_EQ(end.signal, SIGXFSZ) << stop;
+        EXPECT_FALSE(FileExists(IniPath())) << stop;
+    }
 }

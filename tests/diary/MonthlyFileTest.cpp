@@ -1,8 +1,10 @@
 // Naming, creating, loading and listing the monthly files.
+#include <filesystem>
 #include <tuple>
 
 #include "DiaryFixture.h"
 #include "EventLines.h"
+#include "TempFolder.h"
 #include "config/clsConfigDiary.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/FileSystem.h"
@@ -131,6 +133,21 @@ TEST_F(MonthlyFileTest, AnUnusableDataPathAsksForAFolderForTheNextStartOnly) {
     EXPECT_EQ(gStrDiaryDataFile, program + "data\\D200406.dat");
 }
 
+TEST_F(MonthlyFileTest, AnEmptyOrRelativeDataPathCountsFromTheProgramFolderNeverTheWorkingFolder) {
+    const orbidex::test::TempFolder working;
+    const auto startedIn = std::filesystem::current_path();
+    std::filesystem::current_path(working.Native());
+    for (const std::string& path : {std::string(), std::string("data\\")}) {
+        gStrDataPath = path;
+        glbEvents.LoadDiaryData(June(5));
+        glbEvents.SaveDiaryArray(kFieldDelimiter, nullptr);
+        EXPECT_TRUE(FileExists(Stored(path + "D200406.dat"))) << "'" << path << "'";
+        EXPECT_TRUE(FileExists(Stored(path + "D200406.dat_NET"))) << "'" << path << "': saved and handed over";
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(working.Native()));
+    std::filesystem::current_path(startedIn);
+}
+
 TEST_F(MonthlyFileTest, ForeignBytesLoadAndSaveWithoutHarm) {
     const std::string real = EventLine("D200406050001", "20040605", "0900", "Real");
     const std::string bytes = std::string("\xFF\xFE\x00\x01garbage\rline\x1F\x1F\x1F\n", 20) +
@@ -157,6 +174,9 @@ TEST_F(MonthlyFileTest, AFolderWhereTheMonthsFileShouldBeLoadsNoEventsAndIsNever
     glbEvents.SaveDiaryArray(kFieldDelimiter, nullptr);
     EXPECT_TRUE(FolderExists(Data("D200406.dat")));
     EXPECT_FALSE(FileExists(Data("D200406.dat_NET"))) << "a failed write hands nothing over";
+    EXPECT_EQ(platform_.MessageTexts(),
+              std::vector<std::string>{"Error in SaveDiaryArray Error=75 = Path/File access error"});
+    EXPECT_TRUE(Logged("SaveDiaryArray could not write " + Data("D200406.dat") + " - it keeps its previous content"));
 
     cDiaryRecord event = glbEvents.events(0);
     glbEvents.AddDiaryRecord(event);

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -9,7 +10,15 @@
 using namespace orbidex;
 using orbidex::test::TempFolder;
 
+namespace fs = std::filesystem;
+
 namespace {
+
+std::vector<std::string> namesIn(const TempFolder& folder) {
+    std::vector<std::string> names = ListFolder(folder.Stored() + "\\*", true);
+    std::sort(names.begin(), names.end());
+    return names;
+}
 
 void touch(const std::string& native, const std::string& bytes = "x") {
     std::ofstream(native, std::ios::binary) << bytes;
@@ -97,4 +106,49 @@ TEST(FileSystem, FoldersAndMissingFilesFailQuietly) {
     VbDate stamp = 0;
     EXPECT_FALSE(FileTimeStamp(t.Stored() + "\\missing.txt", stamp));
     EXPECT_TRUE(FileTimeStamp(t.Stored(), stamp));
+}
+
+TEST(FileSystem, ARewriteReplacesTheFileWholeAndKeepsItsPermissionsAndLinks) {
+    TempFolder t;
+    const std::string month = t.Native() + "/D200406.dat";
+    touch(month, "old content");
+    fs::permissions(month, fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    ASSERT_TRUE(WriteWholeFile(t.Stored() + "\\D200406.dat", "new"));
+    std::string bytes;
+    ASSERT_TRUE(ReadWholeFile(t.Stored() + "\\D200406.dat", bytes));
+    EXPECT_EQ(bytes, "new");
+    EXPECT_EQ(fs::status(month).permissions(), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+
+    // Written through a link, the file it points at changes and the link stays.
+    ASSERT_EQ(::symlink(month.c_str(), (t.Native() + "/linked.dat").c_str()), 0);
+    ASSERT_TRUE(WriteWholeFile(t.Stored() + "\\linked.dat", "through the link"));
+    EXPECT_TRUE(fs::is_symlink(t.Native() + "/linked.dat"));
+    ASSERT_TRUE(ReadWholeFile(t.Stored() + "\\D200406.dat", bytes));
+    EXPECT_EQ(bytes, "through the link");
+    EXPECT_EQ(namesIn(t), (std::vector<std::string>{"D200406.dat", "linked.dat"}));
+}
+
+TEST(FileSystem, AWriteThatFailsSaysWhyAndLeavesNothingBehind) {
+    TempFolder t;
+    touch(t.Native() + "/plain", "kept");
+    struct Case {
+        std::string path;
+        int number;
+        std::string description;
+    };
+    const Case cases[] = {
+        {t.Stored(), 75, "Path/File access error"},  // a folder
+        {t.Stored() + "\\missing\\D200406.dat", 76, "Path not found"},
+        {t.Stored() + "\\plain\\D200406.dat", 76, "Path not found"},  // a file where a folder should be
+    };
+    for (const Case& c : cases) {
+        FileError error;
+        EXPECT_FALSE(WriteWholeFile(c.path, "x", &error)) << c.path;
+        EXPECT_EQ(error.number, c.number) << c.path;
+        EXPECT_EQ(error.description, c.description) << c.path;
+    }
+    std::string bytes;
+    ASSERT_TRUE(ReadWholeFile(t.Stored() + "\\plain", bytes));
+    EXPECT_EQ(bytes, "kept");
+    EXPECT_EQ(namesIn(t), std::vector<std::string>{"plain"});
 }

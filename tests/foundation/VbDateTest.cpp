@@ -107,3 +107,19 @@ TEST(VbDate, ReadingDatesAndTimesFromText) {
     EXPECT_FALSE(TryParseDate("tomorrow", d));
     EXPECT_FALSE(TryParseDate("25:00", d));
 }
+
+TEST(VbDate, ALongRunOfDigitsInAPartIsNoDateAndLeavesTheResultAlone) {
+    const char* const texts[] = {
+        "4444.4.848888842444",      "2004-99999999999-05", "2004-06-99999999999",
+        "2004/6/848888842444 9:00", "99999999999:00",      "9:00:99999999999 pm",
+    };
+    for (const char* text : texts) {
+        VbDate d = 12345;
+        EXPECT_FALSE(TryParseDate(text, d)) << text;
+        EXPECT_EQ(d, 12345) << text;
+    }
+    // Leading zeros, however many, are still read.
+    VbDate d = 0;
+    ASSERT_TRUE(TryParseDate("2004-006-000000000000000000005", d));
+    EXPECT_EQ(d, DateSerial(2004, 6, 5));
+}

@@ -1,4 +1,5 @@
 #include "ProgramFixture.h"
+#include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
 #include "foundation/cFileIO.h"
@@ -44,6 +45,33 @@ TEST_F(FileIOTest, WritingAndAppendingUseCrLf) {
     EXPECT_EQ(ReadBytes(Stored("out.txt")), "first\r\nsecond\r\n");
     f.Clear();
     EXPECT_FALSE(f.Exists());
+}
+
+TEST_F(FileIOTest, OutputReplacesTheFileWholeWhenItIsClosed) {
+    WriteBytes(Stored("out.txt"), "old\r\n");
+    cFileIO f;
+    f.init(Stored("out.txt"));
+    f.OpenFile("OUTPUT");
+    f.printLine("new");
+    f.appendLine("lines");
+    EXPECT_EQ(ReadBytes(Stored("out.txt")), "old\r\n") << "until the close the file is as it was";
+    EXPECT_TRUE(f.closeFile());
+    EXPECT_EQ(ReadBytes(Stored("out.txt")), "new\r\nlines\r\n");
+
+    // A close whose write fails leaves what stands there.
+    f.OpenFile("OUTPUT");
+    f.printLine("lost");
+    DeleteFile(Stored("out.txt"));
+    MakeFolder(Stored("out.txt"));
+    EXPECT_FALSE(f.closeFile());
+    EXPECT_TRUE(FolderExists(Stored("out.txt")));
+    EXPECT_FALSE(f.isOpen());
+
+    // A folder that does not exist fails at the open, as it always did.
+    cFileIO lost;
+    lost.init(Stored("missing\\out.txt"));
+    lost.OpenFile("OUTPUT");
+    EXPECT_FALSE(lost.isOpen());
 }
 
 TEST_F(FileIOTest, OpeningRulesAndFailures) {
