@@ -5,6 +5,7 @@
 #include "diary/cDiaryRecurring.h"
 #include "foundation/ProgramState.h"
 #include "network/cComms.h"
+#include "network/cDiaryComms.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
@@ -19,6 +20,7 @@ void ResetProgramObjects() {
     glbScreen = clsDiaryScreen();
     glbEvents = cDiaryRecords();
     glbComms = cComms();
+    glbDiaryComms = cDiaryComms();
     glbRecurring = cDiaryRecurring();
     gCurrentEvent = cDiaryRecord();
     glbSearchEvent = cDiaryRecord();

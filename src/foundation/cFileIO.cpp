@@ -7,6 +7,11 @@
 
 namespace orbidex {
 
+namespace {
+// How long a wait lets the window run between two tries at the file.
+constexpr int kRetryMilliseconds = 20;
+}  // namespace
+
 cFileIO::~cFileIO() { closeFile(); }
 
 bool cFileIO::Exists() const { return FileExists(fname); }
@@ -108,7 +113,7 @@ bool cFileIO::waitUntilFileCanBeOpened(int seconds) {
             platform().SetBusyCursor(false);
             return false;
         }
-        platform().DoEvents();
+        platform().WaitForEvents(kRetryMilliseconds);
         ++attempts;
         opened = tryOpenForInput();
     }

@@ -11,6 +11,8 @@
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
 #include "foundation/clsPath.h"
+#include "network/cComms.h"
+#include "network/cDiaryComms.h"
 #include "platform/Platform.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
@@ -82,6 +84,9 @@ void startSession() {
     }
     glbLog.log("NETWORK_STRING = CLIENT", 0);
     platform().DoEvents();
+    glbComms.InitClient(glbDiaryComms.GetLocalDataPath());
+    glbComms.Logon();
+    glbDiaryComms.PingClient();
     glbScreen.showStatus();
     platform().DoEvents();
 }
