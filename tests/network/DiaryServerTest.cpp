@@ -7,7 +7,6 @@
 #include "DiaryServer.h"
 #include "EventLines.h"
 #include "NetworkFixture.h"
-#include "SearchRequest.h"
 #include "foundation/FileSystem.h"
 
 using namespace orbidex;
@@ -120,23 +119,4 @@ TEST_F(DiaryServerTest, TheUserListFollowsTheLogOnsAndSurvivesARestart) {
     WriteBytes(Mary("DEAD.TXT"), "user logged off at 2004-Jun-05 09:31:01\r\n");
     restarted.Poll();
     EXPECT_EQ(ReadBytes(UserFolder("ann") + "USERS.TXT"), "ann,Offline\r\nfred,Offline\r\nmary,Offline\r\n");
-}
-
-TEST_F(DiaryServerTest, TheRequestBlockIsReadLeniently) {
-    struct Case {
-        const char* text;
-        server::SearchRequest expected;
-    } cases[] = {
-        {"[search]\r\nDETAIL=a=b\r\nDateStart= 20040601 \r\ndateend=20040630\r\nusers=mary, Fred , MARY, , \r\n",
-         {"a=b", "20040601", "20040630", {"mary", "Fred"}}},
-        {"users=\r\n", {"", "", "", {}}},
-        {"no block at all", {"", "", "", {}}},
-    };
-    for (const Case& c : cases) {
-        const server::SearchRequest read = server::ParseSearchRequest(c.text);
-        EXPECT_EQ(read.detail, c.expected.detail) << c.text;
-        EXPECT_EQ(read.dateStart, c.expected.dateStart) << c.text;
-        EXPECT_EQ(read.dateEnd, c.expected.dateEnd) << c.text;
-        EXPECT_EQ(read.users, c.expected.users) << c.text;
-    }
 }

@@ -172,15 +172,6 @@ TEST_F(SessionTest, PingClientCopiesTheSharedListsAndTellsALocalOnlyClientWhy) {
     EXPECT_EQ(box.buttons, vbInformation);
 }
 
-TEST_F(SessionTest, PollingFrequentlyIsATextProperty) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"True", "True"}, {" true ", "True"}, {"False", "False"}, {"1", "False"}, {"", "False"}};
-    for (const auto& [written, read] : cases) {
-        glbComms.glbPollFrequently(written);
-        EXPECT_EQ(glbComms.glbPollFrequently(), read) << written;
-    }
-}
-
 TEST_F(SessionTest, AClientStartLogsOnAndShowsTheConnectionAndTheServerMenuActs) {
     WriteBytes(DataPath() + "orbidex.ini", test::ClientSettingsFile(folder_.Stored(), UserFolder("fred"), 2));
     platform_.AllowUnscriptedForms(true);
