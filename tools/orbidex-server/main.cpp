@@ -55,7 +55,7 @@ int main(int argc, char* argv[]) {
     for (int sig : {SIGTERM, SIGINT}) sigaction(sig, &action, nullptr);
 
     orbidex::server::DiaryServer server(stored, log);
-    log("serving " + stored);
+    log("serving " + share.lexically_normal().string());
     // Ten passes a second: a ping is answered well inside the client's shortest wait.
     while (gStopRequested == 0) {
         server.Poll();
