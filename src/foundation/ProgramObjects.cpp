@@ -8,6 +8,7 @@
 #include "pim/ListAndDetails.h"
 #include "pim/cNotes.h"
 #include "pim/cTasks.h"
+#include "network/cDiaryComms.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
@@ -22,6 +23,7 @@ void ResetProgramObjects() {
     glbScreen = clsDiaryScreen();
     glbEvents = cDiaryRecords();
     glbComms = cComms();
+    glbDiaryComms = cDiaryComms();
     glbRecurring = cDiaryRecurring();
     gCurrentEvent = cDiaryRecord();
     glbSearchEvent = cDiaryRecord();

@@ -16,6 +16,8 @@ bool folderExistsFor(const std::string& name) {
     return cut <= 1 || FolderExists(Left(name, cut - 1));
 }
 
+// How long a wait lets the window run between two tries at the file.
+constexpr int kRetryMilliseconds = 20;
 }  // namespace
 
 cFileIO::~cFileIO() { closeFile(); }
@@ -131,7 +133,7 @@ bool cFileIO::waitUntilFileCanBeOpened(int seconds) {
             platform().SetBusyCursor(false);
             return false;
         }
-        platform().DoEvents();
+        platform().WaitForEvents(kRetryMilliseconds);
         ++attempts;
         opened = tryOpenForInput();
     }

@@ -13,6 +13,8 @@
 #include "foundation/clsPath.h"
 #include "pim/cNotes.h"
 #include "pim/cTasks.h"
+#include "network/cComms.h"
+#include "network/cDiaryComms.h"
 #include "platform/Platform.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
@@ -96,6 +98,9 @@ void startSession() {
     }
     glbLog.log("NETWORK_STRING = CLIENT", 0);
     platform().DoEvents();
+    glbComms.InitClient(glbDiaryComms.GetLocalDataPath());
+    glbComms.Logon();
+    glbDiaryComms.PingClient();
     glbScreen.showStatus();
     platform().DoEvents();
 }

@@ -1,54 +1,171 @@
+// The client's session with the server: connecting the user's network folder,
+// pinging, logging on and off, and the keep-alive.
 #include "network/cComms.h"
 
 #include "config/clsConfigDiary.h"
+#include "dialogs/LaunchDocument.h"
 #include "diary/cDiaryRecord.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
+#include "foundation/VbDate.h"
 #include "foundation/VbString.h"
+#include "foundation/cFileIO.h"
 #include "foundation/cLog.h"
+#include "network/NetConnection.h"
+#include "network/ServerFolder.h"
 #include "platform/Platform.h"
 
 namespace orbidex {
 
+namespace sf = serverfolder;
+
 cComms glbComms;
+
+std::string networkFile(std::string_view name) {
+    return AddFileToPath(glbClientsNetworkDatapath, std::string(name));
+}
+
+bool waitForFile(const std::string& file, int seconds) {
+    cFileIO waited;
+    waited.init(file);
+    return waited.waitUntilFileCanBeOpened(seconds);
+}
 
 namespace {
 
-// How much of each event other users may see: "0" nothing to "4" everything.
-std::string securityLevel() {
-    return Trim(glbConfig.security);
+void appendLineTo(std::string_view name, const std::string& line) {
+    cFileIO file;
+    file.init(networkFile(name));
+    file.appendLine(line);
+}
+
+void serverUnreachable() {
+    glbNetworkAlive = false;
+    glbServerAlive = false;
+}
+
+// A folder without a name is nobody's folder: an empty setting counts as missing.
+bool networkFolderExists() {
+    return !glbComms.GetMyUserName().empty() && FolderExists(glbClientsNetworkDatapath);
 }
 
 }  // namespace
 
-bool cComms::SaveDiaryFileToServer(const std::string& file, bool noWait) {
-    std::string bytes;
-    if (!ReadWholeFile(file, bytes)) return false;
-    const std::string level = securityLevel();
-    std::string networkForm;
-    for (const std::string& line : SplitLines(bytes)) {
-        platform().DoEvents();
-        cDiaryRecord record;
-        record.GetDiaryRecordFromText(line);
-        const std::string shared = record.FormatDiaryRecordForNetwork(record, kFieldDelimiter, "", level);
-        if (!Trim(shared).empty()) networkForm += shared + "\r\n";
-    }
-    WriteWholeFile(file + "_NET", networkForm);
-    SaveFileToMyNetworkDatapathForServer(file + "_NET", noWait);
-    return false;
+std::string cComms::glbPollFrequently() const {
+    return CStr(pollFrequently_);
 }
 
-void cComms::SaveFileToMyNetworkDatapathForServer(const std::string& file, bool noWait) {
-    glbSavingToServer = true;
-    if (!glbServerAlive) {
-        glbLog.log("Server not alive - not SaveFileToMyNetworkDatapathForServer", 0);
+void cComms::glbPollFrequently(const std::string& value) {
+    pollFrequently_ = EqualsText(Trim(value), "True");
+}
+
+void cComms::SendRequest(std::string&) {}
+
+void cComms::ReceiveResults(std::string&) {}
+
+void cComms::InitClient(const std::string& localPath) {
+    glbLog.log("Initializing Client", 3);
+    localDataPath_ = localPath;
+    if (glbConfig.runLocalModeOnly == "1") {
+        serverUnreachable();
         return;
     }
-    // With the server up, the copy into the network folder and the wait for its
-    // answer are the session's work; until a session is made, nothing more happens.
-    (void)file;
-    (void)noWait;
+    const std::string networkPath = glbNetworkDatapath;
+    if (networkPath.empty()) glbConfig.StartingForFirstTime();
+    // A folder typed with "/" is taken in the stored form the program works with.
+    glbClientsNetworkDatapath = ToStoredPath(networkPath);
+    if (NetConnection(glbClientsNetworkDatapath, "") != 0) {
+        glbLog.log("Launching networkPath folder to see what the problem is '" + glbClientsNetworkDatapath + " '", 0);
+        LaunchDocument(glbClientsNetworkDatapath);
+    }
+    KillOldNetDatapathFiles();  // puts the folder's trailing "\" back on the way
+    glbMyUserName = GetMyUserName();
+    if (!networkFolderExists()) {
+        glbLog.log("Cant find network datapath " + glbClientsNetworkDatapath + " - Running Local", 0);
+        serverUnreachable();
+        return;
+    }
+    glbNetworkAlive = true;
+    PingClient_local();
+}
+
+void cComms::KillOldNetDatapathFiles() {
+    for (std::string_view name :
+         {sf::kChat, sf::kChatOK, sf::kResults, sf::kResultsOK, sf::kRequest, sf::kRequestOK, sf::kServerFin})
+        DeleteFile(networkFile(name));
+}
+
+std::string cComms::PingClient_local() {
+    DeleteFile(networkFile(sf::kChatOK));
+    if (!networkFolderExists()) {
+        serverUnreachable();
+        return "";
+    }
+    glbNetworkAlive = true;
+    appendLineTo(sf::kChat, std::string(sf::kPingLine));
+    if (waitForFile(networkFile(sf::kChatOK), glbConfig.waitTime)) {
+        glbServerAlive = true;
+        glbNetworkAlive = true;
+        DeleteFile(networkFile(sf::kChatOK));
+    } else {
+        glbServerAlive = false;
+    }
+    return "";
+}
+
+void cComms::TellServerImStillAlive() {
+    DeleteFile(networkFile(sf::kChatOK));
+    DeleteFile(networkFile(sf::kChat));
+    appendLineTo(sf::kChat, FormatDate(Now(), "yyyymmdd hh:mm:ss"));
+}
+
+void cComms::Logon() {
+    if (glbServerAlive) appendLineTo(sf::kAlive, "user logged on at " + FormatDate(Now(), "yyyy-MMM-dd hh:mm:ss"));
+}
+
+// Logoff asks whether the folder can be reached, not whether the server answered:
+// a user leaving while the server rests still leaves word of it.
+void cComms::Logoff() {
+    if (glbNetworkAlive) appendLineTo(sf::kDead, "user logged off at " + FormatDate(Now(), "yyyy-MMM-dd hh:mm:ss"));
+}
+
+std::string cComms::GetMyUserName() const {
+    std::string path = glbClientsNetworkDatapath;
+    if (Right(path, 1) == "\\") path = Left(path, Len(path) - 1);
+    return Mid(path, InStrRev(path, "\\") + 1);
+}
+
+std::string cComms::MakeRandomDiaryRecordAsText(double date) {
+    auto randomBelow = [](int limit) { return static_cast<int>(platform().Rnd() * limit); };
+    cDiaryRecord record;
+    record.DateEvent = FormatDate(date, "yyyymmdd");
+    record.ID = "D" + record.DateEvent + FormatNumber(randomBelow(10000), "0000");
+    record.TimeEvent = FormatNumber(8 + randomBelow(10), "00") + FormatNumber(15 * randomBelow(4), "00");
+    record.length = CStr(static_cast<long>(15 * (1 + randomBelow(8))));
+    record.Reference = "Test";
+    record.details = "Made-up event " + CStr(static_cast<long>(randomBelow(1000)));
+    return record.FormatAsText(kFieldDelimiter, true);
+}
+
+// The user lists, meetings and messages are not in this version yet.
+std::string cComms::GetTickedListOfUsers(ListView&) {
+    return "";
+}
+std::string cComms::GetSelectedUsers(Control&, bool) {
+    return "";
+}
+std::string cComms::GetTickedUsers(ListView&) {
+    return "";
+}
+void cComms::ListUsers(Control&, bool) {}
+void cComms::ParseUserItemToList(Control&, const std::string&, bool) {}
+void cComms::TransmitText(const std::string&, const std::string&) {}
+void cComms::MakeMeetingBooking(const cDiaryRecord&, const std::string&) {}
+void cComms::GetEventAddedByAnotherUser(const std::string&) {}
+
+bool cComms::CheckForServerRequests() {
+    return false;
 }
 
 }  // namespace orbidex

@@ -3,6 +3,7 @@
 #include "foundation/ProgramState.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
+#include "network/cComms.h"
 #include "platform/Platform.h"
 
 namespace orbidex {
@@ -14,10 +15,6 @@ void ReportDataError(const std::string& source, const DataError& error) {
     platform().MsgBox(text, vbOKOnly, "");
 }
 
-std::string MyUserName() {
-    std::string path = glbClientsNetworkDatapath;
-    if (EndsWith(path, "\\")) path.pop_back();
-    return Mid(path, InStrRev(path, "\\") + 1);
-}
+std::string MyUserName() { return glbComms.GetMyUserName(); }
 
 }  // namespace orbidex

@@ -28,9 +28,8 @@ inline constexpr const char* kFilterMessage =
 /// keeping what it had.
 void ReportDataError(const std::string& source, const DataError& error);
 
-/// The user name tasks and notes carry: what stands behind the last backslash of
-/// the client's network data path (one trailing backslash dropped); "" in a program
-/// that has no such path.
+/// The user name tasks and notes carry: the session's user name, "" in a program that
+/// has no network data path.
 std::string MyUserName();
 
 }  // namespace orbidex

@@ -66,6 +66,12 @@ public:
                                  const std::string& defaultText) = 0;
     virtual void SetBusyCursor(bool busy) = 0;
     virtual void DoEvents() = 0;
+    /// The event pump of a wait: lets the window run for about `milliseconds`
+    /// without keeping the processor busy.  By default one DoEvents().
+    virtual void WaitForEvents(int milliseconds) {
+        (void)milliseconds;
+        DoEvents();
+    }
     virtual void Beep() = 0;
     virtual void PlaySoundFile(const std::string& storedPath) = 0;
     virtual std::string ClipboardText() = 0;

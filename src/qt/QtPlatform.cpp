@@ -24,6 +24,7 @@
 #include <QScreen>
 #include <QStandardPaths>
 #include <QSysInfo>
+#include <QTimer>
 #include <QUrl>
 #include <algorithm>
 #include <cstdio>
@@ -147,6 +148,12 @@ void QtPlatform::SetBusyCursor(bool busy) {
 }
 
 void QtPlatform::DoEvents() { QCoreApplication::processEvents(QEventLoop::AllEvents, 50); }
+
+void QtPlatform::WaitForEvents(int milliseconds) {
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
 
 void QtPlatform::Beep() { QApplication::beep(); }
 

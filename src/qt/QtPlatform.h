@@ -23,6 +23,7 @@ public:
     std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) override;
     void SetBusyCursor(bool busy) override;
     void DoEvents() override;
+    void WaitForEvents(int milliseconds) override;
     void Beep() override;
     void PlaySoundFile(const std::string& storedPath) override;
     std::string ClipboardText() override;

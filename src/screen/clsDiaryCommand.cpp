@@ -8,6 +8,7 @@
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
 #include "network/cComms.h"
+#include "network/cDiaryComms.h"
 #include "platform/Platform.h"
 #include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
@@ -107,6 +108,8 @@ void clsDiaryCommand::serverPing() {
     if (form_ == nullptr) return;
     timerOn(false);
     form_->status.Panels(1).Text = "Pinging Server....";
+    glbComms.InitClient(glbDiaryComms.GetLocalDataPath());
+    glbDiaryComms.PingClient();
     Button& server = form_->Toolbar1.Buttons("refresh");
     if (!glbServerAlive) {
         server.Image = "disconnect";

@@ -200,8 +200,8 @@ void clsDiaryScreen::showStatus() {
         form_->status.Panels(1).Text = "Connected to the Diary Server as " + glbMyUserName;
     } else {
         server.Image = "disconnect";
-        server.ToolTipText = "Orbidex - Local mode (server unavailable)";
-        form_->status.Panels(1).Text = "Orbidex - Local mode (server unavailable)";
+        server.ToolTipText = "Local mode (server unavailable)";
+        form_->status.Panels(1).Text = "Running in Local Mode (Server not responding)";
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include "foundation/ProgramState.h"
 #include "foundation/VbString.h"
+#include "network/cComms.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
@@ -18,8 +19,8 @@ const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
         "mnuFileImport",     "mnuFileExport",        "mnuAppPlanMeeting",      "mnuTaskMenu",      "mnuTaskHeadings",
         "mnuNotesMenu",      "mnuSearchQuick",       "mnuOptScrapPaper",       "mnuToolsCalendar", "mnuViewSetup",
-        "mnuOptionsDisplay", "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuPingServer",    "mnuServerLoggon",
-        "mnuServerLogoff",   "mnuBetaServerEnforce", "mnuBetaReindexTask",     "mnuBetaTest(0)",   "mnuBetaTest(1)",
+        "mnuOptionsDisplay", "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuBetaServerEnforce",
+        "mnuBetaReindexTask", "mnuBetaTest(0)",      "mnuBetaTest(1)",
         "mnuHelpAbout",
     };
     return names;
@@ -119,6 +120,8 @@ void frmClientDiaryMain::bindMenus() {
     mnuToolsTimesheet.onClick = [] { glbCmd.StartCompanionTool("kestrop.exe"); };
     mnuViewSetup.onClick = [] { glbCmd.ShowOptions(); };
     mnuPingServer.onClick = [] { glbCmd.serverPing(); };
+    mnuServerLoggon.onClick = [] { glbComms.Logon(); };
+    mnuServerLogoff.onClick = [] { glbComms.Logoff(); };
 
     mnuBetaTestLog.onClick = [] { glbCmd.ToggleDetailedLogging(); };
     mnuBetaRestart.onClick = [] { glbCmd.RestartProgram(); };

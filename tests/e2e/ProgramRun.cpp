@@ -37,8 +37,12 @@ void ProgramRun::copyExecutable(const std::string& executable) {
     if (!fs::exists(exe_)) fs::copy_file(executable, exe_);
 }
 
+void ProgramRun::SetEnvironment(const std::string& name, const std::string& value) {
+    environment_.insert(QString::fromStdString(name), QString::fromStdString(value));
+}
+
 bool ProgramRun::Start() {
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment env = environment_;
     env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     process_.setProcessEnvironment(env);
     process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);

@@ -2,10 +2,12 @@
 // One run of a real executable, copied into a temporary program folder so that its
 // data folder lands there, with Qt's offscreen platform.
 
+#include <gtest/gtest.h>
+
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QString>
 #include <functional>
-#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
@@ -21,6 +23,8 @@ public:
     ProgramRun(const std::string& executable, const std::string& folder);
     ~ProgramRun();
 
+    /// An environment variable for the run, set before Start.
+    void SetEnvironment(const std::string& name, const std::string& value);
     bool Start();
     /// Waits until the program has logged the last line of its start-up.
     bool WaitForStartUp(int timeoutMs = 20000);
@@ -49,6 +53,7 @@ private:
     std::string folder_;
     std::string exe_;
     QProcess process_;
+    QProcessEnvironment environment_ = QProcessEnvironment::systemEnvironment();
 };
 
 /// The base of the end-to-end tests: the Qt core application their waits need.

@@ -64,11 +64,11 @@ TEST_F(CommandsTest, GridOrListIsSavedAndShown) {
 TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
     StartProgram();
     for (Menu* entry : {&Form().mnuFileImport, &Form().mnuSearchQuick, &Form().mnuTaskMenu[0], &Form().mnuNotesMenu[5],
-                        &Form().mnuBetaTest[0], &Form().mnuAppPlanMeeting, &Form().mnuPingServer})
+                        &Form().mnuBetaTest[0], &Form().mnuAppPlanMeeting})
         EXPECT_FALSE(entry->Enabled) << entry->Name();
     for (Menu* entry : {&Form().mnuFilePrint, &Form().mnuFileExit, &Form().mnuViewMode[2], &Form().mnuViewRefresh,
                         &Form().mnuBetaTest[3], &Form().mnuHelpContents, &Form().mnuAppAdd, &Form().mnuAppRecurring,
-                        &Form().mnuPopupGridAdd})
+                        &Form().mnuPopupGridAdd, &Form().mnuPingServer, &Form().mnuServerLogoff})
         EXPECT_TRUE(entry->Enabled) << entry->Name();
 
     // A task list asks to enable its entries; they stay off, and a click does nothing.
@@ -274,9 +274,12 @@ TEST_F(CommandsTest, TheRefreshRebuildsThePresentMode) {
     Form().mnuViewRefresh.UserClick();
     EXPECT_EQ(Form().lblHeading.Caption(), "  Events for Saturday, 5-Jun-2004");
     EXPECT_TRUE(Form().timerSecond.Enabled);
+    // A client that may look for a server pings it first; this one's folder is missing.
     glbConfig.runLocalModeOnly = "0";
+    glbNetworkDatapath = Stored("share\\fred\\");
     Form().mnuViewRefresh.UserClick();
-    EXPECT_EQ(Panel(1), "Orbidex - Local mode (server unavailable)");
+    EXPECT_TRUE(LogHas("Cant find network datapath " + Stored("share\\fred\\") + " - Running Local"));
+    EXPECT_EQ(Panel(1), "Running in Local Mode (Server not responding)");
     EXPECT_EQ(Form().Toolbar1.Buttons("refresh").Image(), "disconnect");
 }
 

@@ -213,7 +213,7 @@ TEST_F(ScreenModesTest, TheClientKindHasTheStaffEntriesAndShowsTheServerState) {
     EXPECT_EQ(add.ButtonMenus(4)->Text(), "Meeting");
     // No server has answered: the server button and the status bar say so.
     EXPECT_EQ(Form().Toolbar1.Buttons("refresh").Image(), "disconnect");
-    EXPECT_EQ(Panel(1), "Orbidex - Local mode (server unavailable)");
+    EXPECT_EQ(Panel(1), "Running in Local Mode (Server not responding)");
 }
 
 TEST_F(ScreenModesTest, TheToolBarButtonsHaveTheirCaptionsAndTips) {

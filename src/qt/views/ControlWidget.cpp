@@ -23,6 +23,7 @@ Control* gDragged = nullptr;  // the control of the program being dragged now
 }
 
 ControlWidget::ControlWidget(Control& control, QWidget* parent) : QWidget(parent), model_(&control) {
+    setObjectName(QString::fromStdString(control.Name()));  // for accessibility tools and test drivers
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     model_->SetViewCallback([this](ViewNotice notice) { onNotice(notice); }, this);

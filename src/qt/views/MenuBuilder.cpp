@@ -59,6 +59,7 @@ void addEntry(QMenu& menu, Menu& entry, bool keepUpToDate) {
         action = menu.addAction(QString());
     }
     applyEntry(*action, entry);
+    action->setObjectName(QString::fromStdString(entry.Name()));
     if (keepUpToDate) {
         follow(action, entry);
     } else {

@@ -1,0 +1,82 @@
+// Plays the user inside a real program.  Loaded into it with LD_PRELOAD by an
+// end-to-end test, it reads "driver.txt" in the program's working folder, one
+// command a line, and performs each on the program's windows by the names of their
+// controls, as soon as the control is on screen:
+//   click <name>        a menu entry or a button
+//   type <name> <text>  keys typed into a text box
+// Each command done is counted in "driver.log".  The program itself is unchanged.
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QTextEdit>
+#include <QTimer>
+#include <QWidget>
+
+namespace {
+
+QObject* findShown(const QString& name) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (!window->isVisible()) continue;
+        for (QAction* action : window->findChildren<QAction*>(name))
+            if (action->isEnabled()) return action;
+        for (QWidget* widget : window->findChildren<QWidget*>(name))
+            if (widget->isVisible() && widget->isEnabled()) return widget;
+    }
+    return nullptr;
+}
+
+template <typename Part>
+Part* partOf(QObject* target) {
+    if (auto* part = qobject_cast<Part*>(target)) return part;
+    return target->findChild<Part*>();
+}
+
+bool perform(const QString& command, QObject* target, const QString& text) {
+    if (command == QLatin1String("click")) {
+        // Later, so that a dialog the click opens runs its own loop, not this step's.
+        if (auto* action = qobject_cast<QAction*>(target)) {
+            QTimer::singleShot(0, action, &QAction::trigger);
+            return true;
+        }
+        if (auto* button = partOf<QAbstractButton>(target)) {
+            QTimer::singleShot(0, button, &QAbstractButton::click);
+            return true;
+        }
+    }
+    if (command == QLatin1String("type")) {
+        QWidget* editor = partOf<QTextEdit>(target);
+        if (editor == nullptr) editor = partOf<QPlainTextEdit>(target);
+        if (editor == nullptr) editor = partOf<QLineEdit>(target);
+        if (editor == nullptr) return false;
+        QTest::keyClicks(editor, text);
+        return true;
+    }
+    return false;
+}
+
+void startDriver() {
+    auto* timer = new QTimer(qApp);
+    auto done = std::make_shared<int>(0);
+    QObject::connect(timer, &QTimer::timeout, qApp, [done] {
+        QFile script(QStringLiteral("driver.txt"));
+        if (!script.open(QIODevice::ReadOnly)) return;
+        const QStringList lines = QString::fromUtf8(script.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        if (*done >= lines.size()) return;
+        const QStringList words = lines[*done].trimmed().split(QLatin1Char(' '));
+        if (words.size() < 2) return;
+        QObject* target = findShown(words[1]);
+        if (target == nullptr || !perform(words[0], target, words.mid(2).join(QLatin1Char(' ')))) return;
+        ++*done;
+        QFile log(QStringLiteral("driver.log"));
+        if (log.open(QIODevice::WriteOnly | QIODevice::Truncate)) log.write(QByteArray::number(*done));
+    });
+    timer->start(50);
+}
+
+}  // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(startDriver)

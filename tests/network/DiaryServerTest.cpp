@@ -1,0 +1,122 @@
+// The reference server on its own: what it takes over, what it leaves, how it
+// answers a search, and the user list it keeps.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "DiaryServer.h"
+#include "EventLines.h"
+#include "NetworkFixture.h"
+#include "foundation/FileSystem.h"
+
+using namespace orbidex;
+using test::EventLine;
+
+class DiaryServerTest : public test::NetworkFixture {
+protected:
+    std::string Mary(const std::string& name) const { return UserFolder("mary") + name; }
+    std::vector<std::string> MaryFiles() const {
+        std::vector<std::string> names = ListFolder(Mary("*"), false);
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+    bool ServerLogged(const std::string& line) const {
+        return std::find(serverLog_.begin(), serverLog_.end(), line) != serverLog_.end();
+    }
+    void HandOver(const std::string& name, const std::string& bytes) {
+        WriteBytes(Mary(name), bytes);
+        WriteBytes(Mary(name + ".OK"), "this was saved by the client on 2004-06-05 09:30:12\r\n");
+    }
+    std::string Search(const std::string& request) {
+        WriteBytes(UserFolder("fred") + "REQUEST.TXT", request);
+        WriteBytes(UserFolder("fred") + "REQUEST.TXT.OK", "Finished writing request to server\r\n");
+        server_->Poll();
+        EXPECT_EQ(ReadBytes(UserFolder("fred") + "RESULTS.TXT.OK"), "results complete\r\n");
+        EXPECT_FALSE(FileExists(UserFolder("fred") + "REQUEST.TXT.OK"));
+        return ReadBytes(UserFolder("fred") + "RESULTS.TXT");
+    }
+};
+
+TEST_F(DiaryServerTest, HandedOverFilesGoIntoTheStoreAndOtherWorkStaysWhereItIs) {
+    for (const char* name : {"D200406.dat_NET", "D200406.DAT", "D_tasks.dat", "allnotes.dat"})
+        HandOver(name, std::string(name) + " bytes\r\n");
+    WriteBytes(Mary("D200407.dat_NET"), "no .OK yet\r\n");
+    WriteBytes(Mary("D200408.dat_NET.OK"), "a lost file\r\n");
+    for (const char* name : {"ADD.TXT", "message.txt", "_4CLIENT.ADD"}) HandOver(name, "to be routed\r\n");
+    server_->Poll();
+
+    for (const char* name : {"D200406.dat_NET", "D200406.DAT", "D_tasks.dat", "allnotes.dat"})
+        EXPECT_EQ(ReadBytes(StoreFolder("mary") + name), std::string(name) + " bytes\r\n") << name;
+    EXPECT_EQ(ReadBytes(Mary("SERVER.FIN")), "taken over D_tasks.dat\r\n") << "the last one, in the order of names";
+    EXPECT_EQ(MaryFiles(),
+              (std::vector<std::string>{"ADD.TXT", "ADD.TXT.OK", "D200407.dat_NET", "SERVER.FIN", "USERS.TXT",
+                                        "_4CLIENT.ADD", "_4CLIENT.ADD.OK", "message.txt", "message.txt.OK"}));
+    EXPECT_TRUE(ServerLogged("mary\\D200408.dat_NET.OK stands without its file - removed"));
+}
+
+TEST_F(DiaryServerTest, AFileTheStoreCannotTakeStaysForTheNextPass) {
+    WriteBytes(Share() + ".server", "a file where the store should be");
+    HandOver("D200406.dat_NET", "June\r\n");
+    server_->Poll();
+    EXPECT_EQ(ReadBytes(Mary("D200406.dat_NET")), "June\r\n");
+    EXPECT_TRUE(FileExists(Mary("D200406.dat_NET.OK")));
+    EXPECT_FALSE(FileExists(Mary("SERVER.FIN")));
+    EXPECT_EQ(serverLog_.back(), "could not keep mary\\D200406.dat_NET - it stays for the next pass");
+
+    DeleteFile(Share() + ".server");
+    server_->Poll();
+    EXPECT_EQ(ReadBytes(StoreFolder("mary") + "D200406.dat_NET"), "June\r\n");
+    EXPECT_EQ(ReadBytes(Mary("SERVER.FIN")), "taken over D200406.dat_NET\r\n");
+}
+
+TEST_F(DiaryServerTest, ASearchIsAnsweredFromTheSharedMonthsInItsRange) {
+    const std::string may = EventLine("D200405300001", "20040530", "1200", "Lunch in May");
+    const std::string early = EventLine("D200406010001", "20040601", "1200", "Lunch too early");
+    const std::string lunch = EventLine("D200406150001", "20040615", "1230", "LUNCH with Ann");
+    const std::string meeting = EventLine("D200406160001", "20040616", "0900", "Budget meeting");
+    const std::string july = EventLine("D200407010001", "20040701", "1300", "lunch in July");
+    HandOver("D200405.dat_NET", may + "\r\n");
+    HandOver("D200406.dat_NET", early + "\r\n\r\n" + lunch + "\r\n" + meeting + "\r\n");
+    HandOver("D200407.dat_NET", july + "\r\n");
+    HandOver("D200406.dat", EventLine("D200406150002", "20040615", "1400", "Private lunch") + "\r\n");
+    server_->Poll();
+
+    const std::string header = "; results of user.mary diary\\";
+    EXPECT_EQ(Search("[search]\r\ndetail=lunch\r\ndateStart=20040610\r\ndateEnd=20040715\r\n"
+                     "users=MARY, nobody, mary, \r\n\r\n"),
+              header + "D200406.dat_NET\r\n" + lunch + "\r\n" + header + "D200407.dat_NET\r\n" + july + "\r\n");
+    EXPECT_EQ(Search("[search]\r\ndetail= \r\ndateStart=20040601\r\ndateEnd=20040630\r\nusers=mary, \r\n\r\n"),
+              header + "D200406.dat_NET\r\n" + early + "\r\n" + lunch + "\r\n" + meeting + "\r\n");
+    // Nothing found is still an answer: the asker's own section, empty.
+    EXPECT_EQ(Search("[search]\r\ndetail=lunch\r\ndateStart=20040601\r\ndateEnd=20040630\r\nusers=nobody, \r\n"),
+              "; results of user.fred diary\\\r\n");
+    static constexpr char kGarbage[] = "\x00\xff[search\r\n=\r\nusers\r\n";
+    EXPECT_EQ(Search(std::string(kGarbage, sizeof kGarbage - 1)), "; results of user.fred diary\\\r\n");
+}
+
+TEST_F(DiaryServerTest, ARequestWithoutItsBlockIsDroppedAndTheServerGoesOn) {
+    WriteBytes(UserFolder("fred") + "REQUEST.TXT.OK", "Finished writing request to server\r\n");
+    server_->Poll();
+    EXPECT_FALSE(FileExists(UserFolder("fred") + "REQUEST.TXT.OK"));
+    EXPECT_FALSE(FileExists(UserFolder("fred") + "RESULTS.TXT"));
+    EXPECT_EQ(serverLog_.back(), "fred\\REQUEST.TXT.OK stands without its request - removed");
+}
+
+TEST_F(DiaryServerTest, TheUserListFollowsTheLogOnsAndSurvivesARestart) {
+    MakeFolder(Share() + ".hidden");
+    WriteBytes(Mary("ALIVE.TXT"), "user logged on at 2004-Jun-05 09:30:12\r\n");
+    server_->Poll();
+    EXPECT_EQ(ReadBytes(UserFolder("fred") + "USERS.TXT"), "fred,Offline\r\nmary,Logged On\r\n");
+
+    MakeFolder(UserFolder("ann"));
+    server::DiaryServer restarted(Share());
+    restarted.Poll();
+    for (const char* user : {"ann", "fred", "mary"})
+        EXPECT_EQ(ReadBytes(UserFolder(user) + "USERS.TXT"), "ann,Offline\r\nfred,Offline\r\nmary,Logged On\r\n");
+
+    // A log-on and a log-off in one pass: the log-off stands.
+    WriteBytes(Mary("ALIVE.TXT"), "user logged on at 2004-Jun-05 09:31:00\r\n");
+    WriteBytes(Mary("DEAD.TXT"), "user logged off at 2004-Jun-05 09:31:01\r\n");
+    restarted.Poll();
+    EXPECT_EQ(ReadBytes(UserFolder("ann") + "USERS.TXT"), "ann,Offline\r\nfred,Offline\r\nmary,Offline\r\n");
+}

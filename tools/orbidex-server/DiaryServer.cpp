@@ -1,0 +1,227 @@
+#include "DiaryServer.h"
+
+#include <algorithm>
+
+#include "SearchRequest.h"
+#include "foundation/FileHelpers.h"
+#include "foundation/FileSystem.h"
+#include "foundation/VbString.h"
+#include "network/ServerFolder.h"
+
+namespace orbidex::server {
+
+namespace sf = orbidex::serverfolder;
+
+namespace {
+
+// The server's own folder inside the share; a name with a leading "." is nobody's.
+constexpr std::string_view kStoreRoot = ".server\\";
+
+// Files of the exchange that are not hand-overs, even when an ".OK" stands beside
+// them: the server answers them, writes them itself, or routes them.
+bool isExchangeFile(std::string_view name) {
+    for (std::string_view exchange : {sf::kChat, sf::kRequest, sf::kResults, sf::kAdd, sf::kMessage, sf::kAlive,
+                                      sf::kDead, sf::kUsers, sf::kServerFin})
+        if (EqualsText(name, exchange)) return true;
+    return StartsWith(UCase(name), "_4CLIENT.");
+}
+
+void sortByName(std::vector<std::string>& names) {
+    std::sort(names.begin(), names.end(),
+              [](const std::string& a, const std::string& b) { return UCase(a) < UCase(b); });
+}
+
+// Writes the file only when it does not already hold `text`.
+void writeIfChanged(const std::string& file, const std::string& text) {
+    std::string present;
+    if (!ReadWholeFile(file, present) || present != text) WriteWholeFile(file, text);
+}
+
+}  // namespace
+
+DiaryServer::DiaryServer(std::string share, Log log) : share_(std::move(share)), log_(std::move(log)) {
+    if (Right(share_, 1) != "\\") share_ += "\\";
+}
+
+std::string DiaryServer::UserFolder::find(std::string_view name) const {
+    for (const std::string& entry : names)
+        if (EqualsText(entry, name)) return entry;
+    return "";
+}
+
+std::string DiaryServer::StoreFolder(const std::string& user) const {
+    return share_ + std::string(kStoreRoot) + StoreFolderName(user) + "\\";
+}
+
+std::vector<std::string> DiaryServer::userNames() const {
+    std::vector<std::string> users;
+    for (const std::string& name : ListFolder(share_ + "*", true))
+        if (name[0] != '.' && InStr(name, "\\") == 0 && FolderExists(share_ + name)) users.push_back(name);
+    sortByName(users);
+    return users;
+}
+
+void DiaryServer::Poll() {
+    if (!usersLoaded_) {
+        std::string text;
+        ReadWholeFile(share_ + std::string(kStoreRoot) + std::string(sf::kUsers), text);
+        users_.Load(text);
+        usersLoaded_ = true;
+    }
+    const std::vector<std::string> users = userNames();
+    auto listed = [this](const std::string& user) {
+        const std::string path = share_ + user + "\\";
+        UserFolder folder{user, path, ListFolder(path + "*", false)};
+        sortByName(folder.names);  // files handed over together are taken in the order of their names
+        return folder;
+    };
+    // Everything handed over in this pass is in the store before any search runs.
+    for (const std::string& user : users) {
+        const UserFolder folder = listed(user);
+        takeLogOnAndOff(folder);
+        answerPing(folder);
+        takeOverHandedFiles(folder);
+    }
+    for (const std::string& user : users) {
+        const UserFolder folder = listed(user);
+        answerRequest(folder);
+        routeWork(folder);
+    }
+    shareUserList(users);
+    shareWordLists(users);
+}
+
+void DiaryServer::takeLogOnAndOff(const UserFolder& folder) {
+    // A log-on and a log-off seen in one pass: the log-off came last.
+    const struct {
+        std::string_view file, status, what;
+    } changes[] = {{sf::kAlive, kLoggedOn, " logged on"}, {sf::kDead, kOffline, " logged off"}};
+    for (const auto& change : changes) {
+        const std::string name = folder.find(change.file);
+        if (name.empty()) continue;
+        users_.SetStatus(folder.user, change.status);
+        DeleteFile(folder.path + name);
+        log(folder.user + std::string(change.what));
+    }
+}
+
+void DiaryServer::answerPing(const UserFolder& folder) {
+    const std::string chat = folder.find(sf::kChat);
+    if (chat.empty()) return;
+    WriteWholeFile(folder.path + std::string(sf::kChatOK), "The diary server is here\r\n");
+    DeleteFile(folder.path + chat);
+    log("answered " + folder.user + "'s " + chat);
+}
+
+void DiaryServer::takeOverHandedFiles(const UserFolder& folder) {
+    for (const std::string& confirmName : folder.names) {
+        if (!EndsWith(UCase(confirmName), std::string(sf::kOK))) continue;
+        const std::string handed = Left(confirmName, Len(confirmName) - Len(sf::kOK));
+        if (handed.empty() || isExchangeFile(handed)) continue;
+        const std::string confirm = folder.path + confirmName;
+        const std::string name = folder.find(handed);
+        if (name.empty()) {
+            log(folder.user + "\\" + confirmName + " stands without its file - removed");
+            DeleteFile(confirm);
+            continue;
+        }
+        // A client that hands the file over again deletes the ".OK" first: a file
+        // whose ".OK" went while it was read may be half copied, and waits.
+        std::string bytes;
+        if (!FileExists(confirm) || !ReadWholeFile(folder.path + name, bytes) || !FileExists(confirm)) continue;
+        if (!keepInStore(folder, name, bytes)) {
+            log("could not keep " + folder.user + "\\" + name + " - it stays for the next pass");
+            continue;
+        }
+        DeleteFile(folder.path + name);
+        DeleteFile(confirm);
+        WriteWholeFile(folder.path + std::string(sf::kServerFin), "taken over " + name + "\r\n");
+        log("took over " + folder.user + "\\" + name);
+    }
+}
+
+// Change lists gather in the store until they are routed to the users they name;
+// every other file replaces the copy before it.
+bool DiaryServer::keepInStore(const UserFolder& folder, const std::string& name, const std::string& bytes) {
+    const std::string store = StoreFolder(folder.user);
+    MakePathAux(store);
+    if (EqualsText(name, sf::kChangeRequest)) return AppendToFile(store + name, bytes);
+    return WriteWholeFile(store + name, bytes);
+}
+
+void DiaryServer::answerRequest(const UserFolder& folder) {
+    const std::string confirm = folder.find(sf::kRequestOK);
+    if (confirm.empty()) return;
+    const std::string request = folder.find(sf::kRequest);
+    std::string text;
+    if (request.empty() || !ReadWholeFile(folder.path + request, text)) {
+        log(folder.user + "\\" + confirm + " stands without its request - removed");
+        DeleteFile(folder.path + confirm);
+        return;
+    }
+    const std::string results = searchResults(text, folder.user);
+    if (!WriteWholeFile(folder.path + std::string(sf::kResults), results)) {
+        log("could not write the results for " + folder.user + " - the request waits for the next pass");
+        return;
+    }
+    WriteWholeFile(folder.path + std::string(sf::kResultsOK), "results complete\r\n");
+    DeleteFile(folder.path + request);
+    DeleteFile(folder.path + confirm);
+    log("answered " + folder.user + "'s search with " + CStr(static_cast<long>(SplitLines(results).size())) + " lines");
+}
+
+// Only the network form of the months is searched: each owner's client made it at
+// the owner's sharing level.  The plain copies in the store never leave it.
+std::string DiaryServer::searchResults(const std::string& requestText, const std::string& asker) const {
+    const SearchRequest request = ParseSearchRequest(requestText);
+    const std::vector<std::string> known = userNames();
+    std::string results;
+    for (const std::string& asked : request.users) {
+        const auto user = std::find_if(known.begin(), known.end(), [&](const auto& k) { return EqualsText(k, asked); });
+        if (user == known.end()) continue;
+        const std::string store = StoreFolder(*user);
+        std::vector<std::string> months = ListFolder(store + "D*" + std::string(sf::kNetworkForm), false);
+        sortByName(months);
+        for (const std::string& month : months) {
+            std::string bytes;
+            if (!MonthInRange(request, month) || !ReadWholeFile(store + month, bytes)) continue;
+            results += ResultsHeader(*user, month) + "\r\n";
+            for (const std::string& line : SplitLines(bytes))
+                if (EventMatches(request, line)) results += line + "\r\n";
+        }
+    }
+    // An answer that found nothing still says so, so that it is not taken for silence.
+    if (results.empty()) results = ResultsHeader(asker, "") + "\r\n";
+    return results;
+}
+
+// Meeting bookings (ADD.TXT) and messages (message.txt) are for the users they name;
+// this server does not route them yet, and leaves them waiting in the folder.
+void DiaryServer::routeWork(const UserFolder&) {}
+
+void DiaryServer::shareUserList(const std::vector<std::string>& users) {
+    UserList present;
+    for (const std::string& user : users) {
+        const std::string status = users_.Status(user);
+        present.SetStatus(user, status.empty() ? kOffline : status);
+    }
+    const std::string text = present.Text();
+    MakePathAux(share_ + std::string(kStoreRoot));
+    writeIfChanged(share_ + std::string(kStoreRoot) + std::string(sf::kUsers), users_.Text());
+    for (const std::string& user : users) writeIfChanged(share_ + user + "\\" + std::string(sf::kUsers), text);
+}
+
+// The office's shared word lists, when the share holds them, go into every folder.
+void DiaryServer::shareWordLists(const std::vector<std::string>& users) {
+    for (std::string_view list : {sf::kCommonLocations, sf::kCommonReferences}) {
+        std::string text;
+        if (!ReadWholeFile(share_ + std::string(list), text)) continue;
+        for (const std::string& user : users) writeIfChanged(share_ + user + "\\" + std::string(list), text);
+    }
+}
+
+void DiaryServer::log(const std::string& message) const {
+    if (log_) log_(message);
+}
+
+}  // namespace orbidex::server

@@ -1,0 +1,59 @@
+#pragma once
+// The reference diary server: one step of work over a share folder whose subfolders
+// are the users' folders.  Each Poll() answers pings, takes handed-over files into
+// the server's own store, answers search requests from the network form of the
+// users' months, and keeps every folder's USERS.TXT.  It holds no state between
+// steps that the folders do not hold, so it can be stopped and started at any time.
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "UserList.h"
+
+namespace orbidex::server {
+
+class DiaryServer {
+public:
+    using Log = std::function<void(const std::string&)>;
+
+    /// `share` is a stored path ("\" separators).  `log` receives one line for each
+    /// thing the server does.
+    explicit DiaryServer(std::string share, Log log = {});
+
+    /// One pass over every user's folder.  Never throws for anything found there.
+    void Poll();
+
+    /// The folder (stored path, ending in "\") where the server keeps a user's files.
+    std::string StoreFolder(const std::string& user) const;
+
+private:
+    /// One user's folder as listed at the start of its pass.
+    struct UserFolder {
+        std::string user;
+        std::string path;                ///< ends in "\"
+        std::vector<std::string> names;  ///< the plain files in it
+        /// The name as it stands in the folder (matched without regard to case), or "".
+        std::string find(std::string_view name) const;
+    };
+
+    std::vector<std::string> userNames() const;
+    void takeLogOnAndOff(const UserFolder& folder);
+    void answerPing(const UserFolder& folder);
+    void takeOverHandedFiles(const UserFolder& folder);
+    bool keepInStore(const UserFolder& folder, const std::string& name, const std::string& bytes);
+    void answerRequest(const UserFolder& folder);
+    std::string searchResults(const std::string& requestText, const std::string& asker) const;
+    void routeWork(const UserFolder& folder);
+    void shareUserList(const std::vector<std::string>& users);
+    void shareWordLists(const std::vector<std::string>& users);
+    void log(const std::string& message) const;
+
+    std::string share_;  ///< ends in "\"
+    Log log_;
+    UserList users_;
+    bool usersLoaded_ = false;
+};
+
+}  // namespace orbidex::server
