@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "config/clsConfigDiary.h"
-#include "controls/KeyCodes.h"
 #include "dialogs/DialogDates.h"
+#include "dialogs/EditorSupport.h"
 #include "dialogs/LaunchDocument.h"
 #include "diary/cDiaryRecord.h"
 #include "diary/cDiaryRecords.h"
@@ -60,11 +60,6 @@ constexpr long kToggledHeight = 3695;
 // Rows of the two tabs and of the details panel.
 constexpr long kRowHeight = 315;
 constexpr long kRowStep = 390;
-
-// The date of a picker in the form of the first six characters of "yyyymmdd".
-std::string yearAndMonth(VbDate date) {
-    return Left(FormatDate(date, "yyyymmdd"), 6);
-}
 
 }  // namespace
 
@@ -322,9 +317,7 @@ void frmEditEvent::Form_Unload(int&) {
 }
 
 void frmEditEvent::tabEvent_Click() {
-    const Tab* selected = tabEvent.SelectedItem();
-    const long shown = selected != nullptr ? selected->Index() - 1 : 0;
-    for (int index : frameEvents.Indexes()) frameEvents(index).Visible = index == shown;
+    ShowSelectedTab(tabEvent, frameEvents);
 }
 
 void frmEditEvent::chkRemind_Click() {
@@ -351,12 +344,7 @@ void frmEditEvent::dtPickDate_Change() {
 
 void frmEditEvent::applyLeadTime(const std::string& text) {
     // The reminder's date stays: a lead time over midnight only moves the clock.
-    const std::string unit = Trim(Right(text, 7));
-    const double amount = Val(text);
-    if (unit == "minutes")
-        DTPicker2.Value = DateAdd("n", -amount, dtPickTime.Value);
-    else if (unit == "hours" || unit == "hour")
-        DTPicker2.Value = DateAdd("h", -amount, dtPickTime.Value);
+    if (const auto remind = RemindTimeBefore(text, dtPickTime.Value)) DTPicker2.Value = *remind;
 }
 
 void frmEditEvent::chkPrivate_Click() {
@@ -372,23 +360,13 @@ void frmEditEvent::txtDetails_Change() {
 }
 
 void frmEditEvent::txtDetails_KeyDown(int& keyCode, int) {
-    if (keyCode != vbKeyReturn) return;
-    const std::string text = txtDetails.Text;
-    if (Right(text, 2) != "\r\n") return;
-    const std::string cut = TrimAtNull(text);
-    if (cut != text) txtDetails.Text = cut;
+    if (!SecondEnterSaves(txtDetails, keyCode)) return;
     cmdOK_Click();
     if (IsUnloaded()) keyCode = 0;  // the Enter saved; it adds no line
 }
 
 void frmEditEvent::txtURL_OLEDragDrop(const DataObject& data) {
-    if (data.HasFiles()) {
-        txtURL.Text = data.Files.front();
-        return;
-    }
-    // An address is one line: a dropped text counts up to its first line break.
-    const std::string& text = data.Text;
-    txtURL.Text = text.substr(0, text.find_first_of("\r\n"));
+    txtURL.Text = DroppedAddress(data);
 }
 
 void frmEditEvent::cmdDetails_Click() {
@@ -417,7 +395,7 @@ void frmEditEvent::cmdCancel_Click() {
 void frmEditEvent::cmdOK_Click() {
     // Reminders are looked for only in the month file of their day.
     const bool remind = chkRemind.Value == vbChecked;
-    if (remind && yearAndMonth(DTPicker1.Value) != yearAndMonth(dtPickDate.Value)) {
+    if (remind && YearAndMonth(DTPicker1.Value) != YearAndMonth(dtPickDate.Value)) {
         platform().MsgBox("The remind date must be within the same month as the date of the event", vbOKOnly, "");
         return;
     }
