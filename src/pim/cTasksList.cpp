@@ -1,4 +1,5 @@
 // The task list on screen, in search results and as an HTML page.
+#include <algorithm>
 #include <array>
 
 #include "config/clsConfigDiary.h"
@@ -66,10 +67,22 @@ void cTasks::InitTaskList(ListView& listControl) {
         glbEvents.InitListViewForTimedSchedule(slots, gTaskHeadings, listControl);
         listControl.ColumnHeaders(1).Width = 0;
     } else {
+        // The calendar's font, as the settings file has it for the calendars.
+        const std::string font = glbConfig.GetValue("calendarView", "fontName");
+        if (!font.empty()) listControl.FontName = font;
+        const double size = Val(glbConfig.GetValue("calendarView", "fontSize"));
+        if (size > 0) listControl.FontSize = size;
         listControl.ColumnHeaders.Clear();
         listControl.ColumnHeaders.Add(" Task Details ");
+        FitCalendarColumn(listControl);
     }
     listControl.Visible = true;
+}
+
+void cTasks::FitCalendarColumn(ListView& listControl) {
+    constexpr long kScrollBar = 360;
+    if (listControl.ColumnHeaders.Count() != 1) return;
+    listControl.ColumnHeaders(1).Width = std::max(1440L, listControl.Width - kScrollBar);
 }
 
 void cTasks::AddHeadingIfVisible(ListItem& listItem, const std::string& value, const std::string& heading) {

@@ -146,6 +146,13 @@ void ListViewWidget::build(bool report) {
         if (syncing() || model() == nullptr) return;
         if (ListItem* item = items_->itemAt(index.row())) list_.UserDblClickItem(*item);
     });
+    // A key that moves to another row selects it as a click does (a click tells of
+    // itself when the button comes up).
+    connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& current) {
+        if (syncing() || model() == nullptr || QGuiApplication::mouseButtons() != Qt::NoButton) return;
+        ListItem* item = items_->itemAt(current.row());
+        if (item != nullptr && item != list_.SelectedItem()) list_.UserClickItem(*item);
+    });
     shownVersion_ = ~0UL;
 }
 
