@@ -142,7 +142,10 @@ void frmEditNote::chkProperties_Click() {
         frameProperties.Visible = true;
         txtClip.Top = frameProperties.Top + frameProperties.Height + 50;
         // The window grows to show both; it does not shrink back.
-        if (Height < kHeightWithProperties) Height = kHeightWithProperties;
+        if (Height < kHeightWithProperties) {
+            if (ScaleHeight > 0) ScaleHeight = ScaleHeight + kHeightWithProperties - Height;
+            Height = kHeightWithProperties;
+        }
     } else {
         frameProperties.Visible = false;
         txtClip.Top = frameProperties.Top;

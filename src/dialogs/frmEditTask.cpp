@@ -91,16 +91,24 @@ void frmEditTask::placeControls() {
     placeAdvancedTab(frameEvents(1));
     placeDetailsPanel();
 
+    // The four buttons stand whole in the narrow window in a smaller type.
     const long top = 360 + kTabHeight + 80;
-    cmdOK.Caption = "Save and Close";
-    cmdOK.Move(60, top, 1230, 375);
-    cmdCancel.Caption = "Cancel";
+    const struct {
+        CommandButton* button;
+        const char* caption;
+        long width;
+    } buttons[] = {{&cmdOK, "Save and Close", 1290},
+                   {&cmdCancel, "Cancel", 690},
+                   {&cmdDetails, "Details >>", 900},
+                   {&cmdTemplate, "Templates...", 990}};
+    long left = 60;
+    for (const auto& [button, caption, width] : buttons) {
+        button->Caption = caption;
+        button->FontSize = 7;
+        button->Move(left, top, width, 375);
+        left += width + 30;
+    }
     cmdCancel.Cancel = true;
-    cmdCancel.Move(1350, top, 700, 375);
-    cmdDetails.Caption = "Details >>";
-    cmdDetails.Move(2110, top, 860, 375);
-    cmdTemplate.Caption = "Templates...";
-    cmdTemplate.Move(3030, top, 930, 375);
 
     cmdDebug.Caption = "Fill all fields";
     for (Control* unused : std::initializer_list<Control*>{&cmdDebug, &lstProducts, &lstReference, &chkPrivate})
@@ -131,11 +139,11 @@ void frmEditTask::placeTaskTab(Frame& tab) {
     dtPickDate.CustomFormat = "ddd d-MMM-yyyy";
     dtPickTime.Format = dtpTime;
 
-    const long fieldLeft = 1440;
+    const long fieldLeft = 1740;
     long top = 1215 + kRowStep;
     caption(kLblLength, "Time to complete  :", top, fieldLeft - 60);
-    place(txtLength, fieldLeft, top, 600);
-    place(cmbLength, fieldLeft + 660, top, kTabWidth - fieldLeft - 720);
+    place(txtLength, fieldLeft, top, 540);
+    place(cmbLength, fieldLeft + 600, top, kTabWidth - fieldLeft - 660);
     top += kRowStep;
     caption(kLblCost, "Cost :", top, fieldLeft - 60);
     place(txtCost, fieldLeft, top, 1200);
@@ -144,11 +152,11 @@ void frmEditTask::placeTaskTab(Frame& tab) {
     top += kRowStep;
     chkRemind.Caption = "Set Reminder";
     place(chkRemind, 60, top, fieldLeft - 60);
-    place(cmbReminder, fieldLeft, top, 1440);
+    place(cmbReminder, fieldLeft, top, 1320);
     Label& before = lbl(kLblBefore);
     before.Caption = "before";
     before.SetContainer(&tab);
-    before.Move(fieldLeft + 1500, top + 45, kTabWidth - fieldLeft - 1560, 255);
+    before.Move(fieldLeft + 1380, top + 45, kTabWidth - fieldLeft - 1440, 255);
     cmbLength.Style = vbComboDropdownList;
     cmbReminder.Style = vbComboDropdownList;
 }

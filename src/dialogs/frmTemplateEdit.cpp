@@ -4,7 +4,7 @@ namespace orbidex {
 
 frmTemplateEdit::frmTemplateEdit() : Form("frmTemplateEdit") {
     Caption = "Edit Template";
-    Move(0, 0, 5000, 3400);
+    Move(0, 0, 5000, 2700);
     const char* const captions[] = {"Default Text", "Default Length", "Default Action", "Reference"};
     for (int i = 0; i < 4; ++i) {
         lbl(i).Caption = captions[i];
@@ -17,10 +17,10 @@ frmTemplateEdit::frmTemplateEdit() : Form("frmTemplateEdit") {
     cmbReference.Move(1560, 1380, 3240, 315);
     cmdOK.Caption = "OK";
     cmdOK.Default = true;
-    cmdOK.Move(2520, 2400, 1080, 375);
+    cmdOK.Move(2520, 1980, 1080, 375);
     cmdCancel.Caption = "Cancel";
     cmdCancel.Cancel = true;
-    cmdCancel.Move(3720, 2400, 1080, 375);
+    cmdCancel.Move(3720, 1980, 1080, 375);
     cmdOK.onClick = [this] { Unload(); };
     cmdCancel.onClick = [this] { Unload(); };
 }

@@ -59,8 +59,6 @@ public:
     /// The columns of a task list: those of gTaskHeadings, or one " Task Details "
     /// column beside the calendar.
     void InitTaskList(ListView& listControl);
-    /// Makes the one column of the calendar's task list as wide as the list.
-    static void FitCalendarColumn(ListView& listControl);
     /// Adds `value` as a cell of `listItem` when the column of `heading` is shown.
     static void AddHeadingIfVisible(ListItem& listItem, const std::string& value, const std::string& heading);
     /// Fills the list, with active tasks only when `onlyActive`; in the task mode the

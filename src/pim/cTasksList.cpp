@@ -1,5 +1,4 @@
 // The task list on screen, in search results and as an HTML page.
-#include <algorithm>
 #include <array>
 
 #include "config/clsConfigDiary.h"
@@ -66,6 +65,9 @@ void cTasks::InitTaskList(ListView& listControl) {
         clsTimeSlots slots;  // the column routine of the event list does not read it
         glbEvents.InitListViewForTimedSchedule(slots, gTaskHeadings, listControl);
         listControl.ColumnHeaders(1).Width = 0;
+        // The statuses of the task editor's list read whole.
+        for (long i = 2; i <= listControl.ColumnHeaders.Count(); ++i)
+            if (listControl.ColumnHeaders(i).Text() == gTaskHeadings.status) listControl.ColumnHeaders(i).Width = 2880;
     } else {
         // The calendar's font, as the settings file has it for the calendars.
         const std::string font = glbConfig.GetValue("calendarView", "fontName");
@@ -74,15 +76,8 @@ void cTasks::InitTaskList(ListView& listControl) {
         if (size > 0) listControl.FontSize = size;
         listControl.ColumnHeaders.Clear();
         listControl.ColumnHeaders.Add(" Task Details ");
-        FitCalendarColumn(listControl);
     }
     listControl.Visible = true;
-}
-
-void cTasks::FitCalendarColumn(ListView& listControl) {
-    constexpr long kScrollBar = 360;
-    if (listControl.ColumnHeaders.Count() != 1) return;
-    listControl.ColumnHeaders(1).Width = std::max(1440L, listControl.Width - kScrollBar);
 }
 
 void cTasks::AddHeadingIfVisible(ListItem& listItem, const std::string& value, const std::string& heading) {

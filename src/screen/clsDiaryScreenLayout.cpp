@@ -5,7 +5,6 @@
 
 #include "config/clsConfigDiary.h"
 #include "foundation/VbString.h"
-#include "pim/cTasks.h"
 #include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
 
@@ -102,7 +101,6 @@ void clsDiaryScreen::resize() {
         }
         ListView& side = form.lvUsers.Visible ? form.lvUsers : form.lvCat;
         if (side.Visible) side.Move(area.left, top, width, std::max(0L, bottom - top));
-        if (mode_ == "CALENDAR") cTasks::FitCalendarColumn(form.lvCat);
         form.imgSplitter.Move(area.left + width, area.top, kSplitterSize, area.height());
         area.left += width + kSplitterSize;
     }

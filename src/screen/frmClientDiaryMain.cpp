@@ -51,6 +51,7 @@ void frmClientDiaryMain::placeControls() {
     tv.Visible = false;
     lvCat.View = lvwReport;
     lvCat.FullRowSelect = true;
+    lvCat.LastColumnFills = true;  // the task's text or the note's title
     lvDiary.View = lvwReport;
     lvDiary.FullRowSelect = true;
     lvUsers.View = lvwReport;

@@ -4,9 +4,7 @@
 // each dialog over it.
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QMenuBar>
-#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -110,24 +108,7 @@ protected:
         QTest::keyClicks(edit, text);
         press(window, form.cmdOK);
     }
-    /// The main window with `dialog` drawn over it, framed: where the dialog stands,
-    /// or, for one that leaves its place to the window manager, in the middle.
-    void screenshotOver(QWidget& dialog, const QString& name) {
-        test::ProcessEvents();
-        QPixmap shot = main_->grab();
-        const QPixmap top = dialog.grab();
-        QPoint at = dialog.mapToGlobal(QPoint(0, 0)) - main_->mapToGlobal(QPoint(0, 0));
-        if (dialog.pos().isNull()) at = QPoint(shot.width() - top.width(), shot.height() - top.height()) / 2;
-        at.setX(std::clamp(at.x(), 0, std::max(0, shot.width() - top.width())));
-        at.setY(std::clamp(at.y(), 0, std::max(0, shot.height() - top.height())));
-        QPainter painter(&shot);
-        painter.drawPixmap(at, top);
-        painter.setPen(Qt::darkGray);
-        painter.drawRect(QRect(at, top.size()).adjusted(0, 0, -1, -1));
-        painter.end();
-        QDir().mkpath(QStringLiteral("screenshots"));
-        shot.save(QStringLiteral("screenshots/") + name + QStringLiteral(".png"));
-    }
+    void screenshotOver(QWidget& dialog, const QString& name) { test::SaveScreenshotOver(*main_, dialog, name); }
 
     test::TempFolder folder_;
     std::string data_;
