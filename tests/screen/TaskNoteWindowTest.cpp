@@ -122,6 +122,7 @@ TEST_F(TaskNoteWindowTest, TheTaskListMarksItsTasksAndATaskIsCompletedInTheEdito
     ListView& tasks = MainForm().lvCat;
     EXPECT_EQ(tasks.ListItems.Count(), 21) << "beside the calendar: the active tasks";
     EXPECT_EQ(MainForm().Label2.Caption().substr(0, 12), " Tasks - 21 ");
+    test::SaveScreenshot(*main_, QStringLiteral("tasks-beside-calendar"));
 
     menuEntry(QStringLiteral("&View"), QStringLiteral("&Tasks"))->trigger();
     button("showall")->trigger();
