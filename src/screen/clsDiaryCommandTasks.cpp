@@ -58,6 +58,7 @@ void clsDiaryCommand::TaskDelete() {
     timerOn(false);
     long index = 0;
     glbTasks.Delete(index);
+    platform().SetBusyCursor(false);  // the list leaves it on when it refuses
     if (index >= 1) gCurrentTask = cTask();  // gone: nothing is selected
     ShowTasks(true);
     timerOn(true);
