@@ -30,8 +30,6 @@ const char* const kLeadTimes[] = {"0 minutes",  "5 minutes", "10 minutes", "15 m
                                   "30 minutes", "1 hour   ", "2 hours  ",  "4 hours  "};
 constexpr long kFifteenMinutes = 3;
 
-const char* const kActions[] = {"View", "Edit", "Phone", "Email", "Website", "Visit", "Work", "Idea"};
-
 // Indexes of the captions in the label array.
 enum LabelIndex {
     kLblTitle = 0,
@@ -231,12 +229,7 @@ void frmEditEvent::bindEvents() {
 
 void frmEditEvent::Form_Load() {
     answered_ = false;
-    for (int index : frameEvents.Indexes()) {
-        frameEvents(index).Move(90, 360);
-        frameEvents(index).BorderStyle = 0;
-    }
-    tabEvent.Tabs(1).Selected = true;
-    tabEvent_Click();
+    ShowFirstTab(tabEvent, frameEvents);
     cmbReminder.Clear();
     for (const char* lead : kLeadTimes) cmbReminder.AddItem(lead);
     cmbReminder.ListIndex = kFifteenMinutes;
@@ -256,7 +249,7 @@ void frmEditEvent::Form_Load() {
         }
     }
     showRecord();
-    showReminder();
+    reminder().Show(gCurrentEvent.DateRemind, gCurrentEvent.TimeRemind);
     caretToEndOfDetails();
     platform().SetBusyCursor(false);
 }
@@ -284,30 +277,13 @@ void frmEditEvent::showRecord() {
     cmbReference.Text = event.Reference;
     cmbActionToPerform.Text = event.ActionToPerform;
     if (cmbAction.ListCount() == 0)
-        for (const char* action : kActions) cmbAction.AddItem(action);
+        for (const char* action : kDefaultActions) cmbAction.AddItem(action);
     cmbAction.Text = event.Action;
 }
 
-void frmEditEvent::showReminder() {
-    const cDiaryRecord& event = gCurrentEvent;
-    const bool on = Val(orbidex::Left(event.DateRemind, 4)) != 0;
-    chkRemind.Value = on ? vbChecked : vbUnchecked;
-    if (on) {
-        DTPicker1.Value = DateOfText(event.DateRemind);
-        DTPicker2.Value = AtTimeOfDay(DTPicker1.Value, TimeOfText(event.TimeRemind));
-    } else {
-        DTPicker1.Value = dtPickDate.Value;
-        DTPicker2.Value = dtPickTime.Value;
-    }
-    showReminderState(on);
-}
-
-void frmEditEvent::showReminderState(bool on) {
-    DTPicker1.Enabled = on;
-    DTPicker2.Enabled = on;
-    cmbReminder.Enabled = on;
-    lbl(kLblReminderWillOccur).Visible = on;
-    lbl(kLblBeforeStart).Visible = on;
+ReminderControls frmEditEvent::reminder() {
+    return {chkRemind,  DTPicker1, DTPicker2, cmbReminder, lbl(kLblReminderWillOccur), lbl(kLblBeforeStart),
+            dtPickDate, dtPickTime};
 }
 
 void frmEditEvent::Form_Unload(int&) {
@@ -321,30 +297,19 @@ void frmEditEvent::tabEvent_Click() {
 }
 
 void frmEditEvent::chkRemind_Click() {
-    if (chkRemind.Value == vbChecked) {
-        DTPicker1.Value = dtPickDate.Value;
-        DTPicker2.Value = DateAdd("n", -15, dtPickTime.Value);
-        showReminderState(true);
-    } else {
-        showReminderState(false);
-    }
+    reminder().TickClicked();
 }
 
 void frmEditEvent::cmbReminder_Click() {
-    applyLeadTime(cmbReminder.Text);
+    reminder().ApplyLeadTime();
 }
 
 void frmEditEvent::dtPickTime_Change() {
-    applyLeadTime(cmbReminder.Text);
+    reminder().ApplyLeadTime();
 }
 
 void frmEditEvent::dtPickDate_Change() {
     DTPicker1.Value = dtPickDate.Value;
-}
-
-void frmEditEvent::applyLeadTime(const std::string& text) {
-    // The reminder's date stays: a lead time over midnight only moves the clock.
-    if (const auto remind = RemindTimeBefore(text, dtPickTime.Value)) DTPicker2.Value = *remind;
 }
 
 void frmEditEvent::chkPrivate_Click() {
@@ -370,9 +335,7 @@ void frmEditEvent::txtURL_OLEDragDrop(const DataObject& data) {
 }
 
 void frmEditEvent::cmdDetails_Click() {
-    const bool widen = cmdDetails.Caption == "Details >>";
-    cmdDetails.Caption = widen ? "Details <<" : "Details >>";
-    Move(Left, Top, widen ? kWideWidth : kNarrowWidth, kToggledHeight);
+    ToggleDetails(*this, cmdDetails, kWideWidth, kNarrowWidth, kToggledHeight);
 }
 
 void frmEditEvent::cmdLaunch_Click() {

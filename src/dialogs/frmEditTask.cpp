@@ -40,8 +40,6 @@ constexpr long kTwoHours = 6;
 // A first character "1" marks an urgent task.
 const char* const kPriorities[] = {"1 - Urgent", "2 - Normal", "3 - Low"};
 
-const char* const kActions[] = {"View", "Edit", "Phone", "Email", "Website", "Visit", "Work", "Idea"};
-
 // Indexes of the captions in the label array.
 enum LabelIndex {
     kLblDue = 1,
@@ -252,12 +250,7 @@ void frmEditTask::bindEvents() {
 
 void frmEditTask::Form_Load() {
     answered_ = false;
-    for (int index : frameEvents.Indexes()) {
-        frameEvents(index).Move(90, 360);
-        frameEvents(index).BorderStyle = 0;
-    }
-    tabEvent.Tabs(1).Selected = true;
-    tabEvent_Click();
+    ShowFirstTab(tabEvent, frameEvents);
     cmbStatus.Clear();
     for (const char* status : kStatuses) cmbStatus.AddItem(status);
     cmbStatus.ListIndex = 0;
@@ -281,7 +274,7 @@ void frmEditTask::Form_Load() {
         dtPickTime.Value = Now();
     }
     showTask();
-    showReminder();
+    reminder().Show(gCurrentTask.RemindDate, gCurrentTask.RemindTime);
     txtDetails.SelStart = 0;
     txtDetails.SetFocus();
 }
@@ -310,30 +303,13 @@ void frmEditTask::showTask() {
     cmbAction.Clear();
     LoadFileToListBox(cmbAction, gStrDataPath + "common_references.txt");
     if (cmbAction.ListCount() == 0)
-        for (const char* action : kActions) cmbAction.AddItem(action);
+        for (const char* action : kDefaultActions) cmbAction.AddItem(action);
     cmbAction.Text = task.ActionID;
 }
 
-void frmEditTask::showReminder() {
-    const cTask& task = gCurrentTask;
-    const bool on = Val(orbidex::Left(task.RemindDate, 4)) != 0;
-    chkRemind.Value = on ? vbChecked : vbUnchecked;
-    if (on) {
-        DTPicker1.Value = DateOfText(task.RemindDate);
-        DTPicker2.Value = AtTimeOfDay(DTPicker1.Value, TimeOfText(task.RemindTime));
-    } else {
-        DTPicker1.Value = dtPickDate.Value;
-        DTPicker2.Value = dtPickTime.Value;
-    }
-    showReminderState(on);
-}
-
-void frmEditTask::showReminderState(bool on) {
-    DTPicker1.Enabled = on;
-    DTPicker2.Enabled = on;
-    cmbReminder.Enabled = on;
-    lbl(kLblReminderWillOccur).Visible = on;
-    lbl(kLblBefore).Visible = on;
+ReminderControls frmEditTask::reminder() {
+    return {chkRemind,       DTPicker1,  DTPicker2, cmbReminder, lbl(kLblReminderWillOccur),
+            lbl(kLblBefore), dtPickDate, dtPickTime};
 }
 
 void frmEditTask::Form_Unload(int&) {
@@ -347,29 +323,20 @@ void frmEditTask::tabEvent_Click() {
 }
 
 void frmEditTask::chkRemind_Click() {
-    const bool on = chkRemind.Value == vbChecked;
-    if (on) {
-        DTPicker1.Value = dtPickDate.Value;
-        DTPicker2.Value = DateAdd("n", -15, dtPickTime.Value);
-    }
-    showReminderState(on);
+    reminder().TickClicked();
 }
 
 void frmEditTask::cmbReminder_Click() {
-    applyLeadTime(cmbReminder.Text);
+    reminder().ApplyLeadTime();
 }
 
 void frmEditTask::dtPickTime_Change() {
-    applyLeadTime(cmbReminder.Text);
+    reminder().ApplyLeadTime();
 }
 
 // A new due date keeps the reminder's date.
 void frmEditTask::dtPickDate_Change() {
-    applyLeadTime(cmbReminder.Text);
-}
-
-void frmEditTask::applyLeadTime(const std::string& text) {
-    if (const auto remind = RemindTimeBefore(text, dtPickTime.Value)) DTPicker2.Value = *remind;
+    reminder().ApplyLeadTime();
 }
 
 void frmEditTask::txtDetails_KeyDown(int& keyCode, int) {
@@ -383,9 +350,7 @@ void frmEditTask::txtURL_OLEDragDrop(const DataObject& data) {
 }
 
 void frmEditTask::cmdDetails_Click() {
-    const bool widen = cmdDetails.Caption == "Details >>";
-    cmdDetails.Caption = widen ? "Details <<" : "Details >>";
-    Move(Left, Top, widen ? kWideWidth : kNarrowWidth, kToggledHeight);
+    ToggleDetails(*this, cmdDetails, kWideWidth, kNarrowWidth, kToggledHeight);
 }
 
 void frmEditTask::cmdLaunch_Click() {

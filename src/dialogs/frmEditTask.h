@@ -20,6 +20,7 @@
 #include "controls/RichTextBox.h"
 #include "controls/TabStrip.h"
 #include "controls/TextBox.h"
+#include "dialogs/EditorSupport.h"
 
 namespace orbidex {
 
@@ -95,11 +96,7 @@ private:
     void bindEvents();
     void fillLists();
     void showTask();
-    void showReminder();
-    /// Enables or greys the reminder's controls, as the tick box says.
-    void showReminderState(bool on);
-    /// Sets the reminder's time to the task's time less the lead time `text`.
-    void applyLeadTime(const std::string& text);
+    ReminderControls reminder();
 
     bool answered_ = false;  ///< OK or Cancel has run since the load
 };

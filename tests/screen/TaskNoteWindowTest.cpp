@@ -7,30 +7,23 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTest>
 #include <QTextEdit>
 #include <QTreeView>
 
+#include "ProgramWindowFixture.h"
 #include "SampleOrganiser.h"
-#include "TempFolder.h"
 #include "ViewTestSupport.h"
-#include "WindowTestPlatform.h"
 #include "config/clsConfigDiary.h"
 #include "dialogs/frmEditNote.h"
 #include "dialogs/frmEditTask.h"
 #include "dialogs/frmTemplateEdit.h"
 #include "foundation/FileSystem.h"
-#include "foundation/ProgramState.h"
 #include "foundation/VbString.h"
-#include "foundation/modMain.h"
-#include "qt/QtFormRegistry.h"
 #include "qt/views/CheckBoxWidget.h"
 #include "qt/views/ComboBoxWidget.h"
-#include "qt/views/CommandButtonWidget.h"
-#include "qt/views/FormWindow.h"
 #include "qt/views/ListViewWidget.h"
 #include "qt/views/RichTextBoxWidget.h"
 #include "qt/views/TabStripWidget.h"
@@ -41,56 +34,26 @@ using namespace orbidex;
 
 namespace {
 
-template <typename View>
-View* viewOf(QWidget& window, const Control& control) {
-    return static_cast<View*>(static_cast<FormWindow&>(window).viewOf(control));
-}
-
-void press(QWidget& window, const CommandButton& button) {
-    QTest::mouseClick(viewOf<CommandButtonWidget>(window, button)->button(), Qt::LeftButton);
-}
-
 // The columns the user chose for the task list, as the settings file keeps them.
 const char* const kTaskHeadings[][2] = {{"Date", "Due"},          {"Time", "Time"},     {"RemindDate", "Remind on"},
                                         {"Priority", "Priority"}, {"Status", "Status"}, {"details", "Task Details"}};
 
 }  // namespace
 
-class TaskNoteWindowTest : public ::testing::Test {
+class TaskNoteWindowTest : public test::ProgramWindowFixture {
 protected:
     void SetUp() override {
-        ResetProgramState();
-        data_ = folder_.Stored() + "\\data\\";
-        MakeFolder(data_);
-        test::WriteSampleOrganiser(data_, DateSerial(2004, 6, 5));
-        RegisterProgramWindows(forms_);
-        SetPlatform(&platform_);
-        modMain("LOCAL");
+        ProgramWindowFixture::SetUp();
         for (const auto& [key, caption] : kTaskHeadings) glbConfig.SetVal("TaskHeadings", key, caption);
         glbConfig.ReadAllSettings();
-        main_ = platform_.WindowOf(MainForm());
-        ASSERT_NE(main_, nullptr);
-        main_->resize(1100, 720);
-        test::ProcessEvents();
     }
-    void TearDown() override {
-        ResetProgramState();
-        test::ProcessEvents();
-        SetPlatform(nullptr);
-    }
+    void WriteData() override { test::WriteSampleOrganiser(data_, DateSerial(2004, 6, 5)); }
 
-    QAction* menuEntry(const QString& menu, const QString& caption) {
-        for (QAction* top : static_cast<FormWindow*>(main_)->menuBar()->actions())
-            if (top->text() == menu && top->menu() != nullptr)
-                for (QAction* action : top->menu()->actions())
-                    if (action->text() == caption) return action;
-        return nullptr;
-    }
     QAction* button(const std::string& key) {
-        auto* bar = viewOf<ToolbarWidget>(*main_, MainForm().Toolbar1);
+        auto* bar = ViewOf<ToolbarWidget>(*main_, MainForm().Toolbar1);
         return bar->actionOf(MainForm().Toolbar1.Buttons.Item(key));
     }
-    QTreeView& list() { return *viewOf<ListViewWidget>(*main_, MainForm().lvCat)->treeView(); }
+    QTreeView& list() { return *ViewOf<ListViewWidget>(*main_, MainForm().lvCat)->treeView(); }
     /// Clicks the list's row that shows `text`, then presses `key` in the list.
     void clickRowAndPress(const std::string& text, Qt::Key key) {
         test::ProcessEvents();
@@ -110,12 +73,6 @@ protected:
         ReadWholeFile(data_ + name, bytes);
         return bytes;
     }
-
-    test::TempFolder folder_;
-    std::string data_;
-    QtFormRegistry forms_;
-    test::WindowTestPlatform platform_{forms_, folder_.Stored()};
-    QWidget* main_ = nullptr;
 };
 
 TEST_F(TaskNoteWindowTest, TheTaskListMarksItsTasksAndATaskIsCompletedInTheEditor) {
@@ -124,7 +81,7 @@ TEST_F(TaskNoteWindowTest, TheTaskListMarksItsTasksAndATaskIsCompletedInTheEdito
     EXPECT_EQ(MainForm().Label2.Caption().substr(0, 12), " Tasks - 21 ");
     test::SaveScreenshot(*main_, QStringLiteral("tasks-beside-calendar"));
 
-    menuEntry(QStringLiteral("&View"), QStringLiteral("&Tasks"))->trigger();
+    MenuEntry(QStringLiteral("&Tasks"), QStringLiteral("&View"))->trigger();
     button("showall")->trigger();
     EXPECT_EQ(MainForm().status.Panels(1).Text(), "30 of 30 Tasks shown");
     test::ProcessEvents();
@@ -139,21 +96,21 @@ TEST_F(TaskNoteWindowTest, TheTaskListMarksItsTasksAndATaskIsCompletedInTheEdito
         auto& editor = static_cast<frmEditTask&>(form);
         EXPECT_EQ(window.windowTitle(), QStringLiteral("Editing Task Details"));
         EXPECT_EQ(editor.chkRemind.Value(), vbChecked);
-        press(window, editor.cmdDetails);
+        Press(window, editor.cmdDetails);
         test::SaveScreenshotOver(*main_, window, QStringLiteral("task-editor"));
-        viewOf<TabStripWidget>(window, editor.tabEvent)->tabBar()->setCurrentIndex(1);
+        ViewOf<TabStripWidget>(window, editor.tabEvent)->tabBar()->setCurrentIndex(1);
         test::SaveScreenshotOver(*main_, window, QStringLiteral("task-editor-advanced"));
         platform_.OnNextModal([this](Form& templates, QWidget& dialog) {
             EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Edit Template"));
             test::SaveScreenshotOver(*main_, dialog, QStringLiteral("task-templates"));
-            press(dialog, static_cast<frmTemplateEdit&>(templates).cmdCancel);
+            Press(dialog, static_cast<frmTemplateEdit&>(templates).cmdCancel);
         });
-        press(window, editor.cmdTemplate);
-        viewOf<TabStripWidget>(window, editor.tabEvent)->tabBar()->setCurrentIndex(0);
-        QLineEdit* status = viewOf<ComboBoxWidget>(window, editor.cmbStatus)->comboBox()->lineEdit();
+        Press(window, editor.cmdTemplate);
+        ViewOf<TabStripWidget>(window, editor.tabEvent)->tabBar()->setCurrentIndex(0);
+        QLineEdit* status = ViewOf<ComboBoxWidget>(window, editor.cmbStatus)->comboBox()->lineEdit();
         status->selectAll();
         QTest::keyClicks(status, QStringLiteral("Completed"));
-        press(window, editor.cmdOK);
+        Press(window, editor.cmdOK);
     });
     clickRowAndPress("Ring the bank about the loan", Qt::Key_Return);
     EXPECT_EQ(SplitLines(file("D_tasks.dat"))[0],
@@ -172,7 +129,7 @@ TEST_F(TaskNoteWindowTest, TheTaskListMarksItsTasksAndATaskIsCompletedInTheEdito
 }
 
 TEST_F(TaskNoteWindowTest, TheNoteListOpensANoteInItsColourAndSavesItsNewColour) {
-    menuEntry(QStringLiteral("&View"), QStringLiteral("&Notes"))->trigger();
+    MenuEntry(QStringLiteral("&Notes"), QStringLiteral("&View"))->trigger();
     ListView& notes = MainForm().lvCat;
     ASSERT_EQ(notes.ListItems.Count(), 10);
     EXPECT_EQ(MainForm().status.Panels(1).Text(), "10 Notes");
@@ -181,18 +138,18 @@ TEST_F(TaskNoteWindowTest, TheNoteListOpensANoteInItsColourAndSavesItsNewColour)
 
     platform_.OnNextModal([this](Form& form, QWidget& window) {
         auto& editor = static_cast<frmEditNote&>(form);
-        QTextEdit* text = viewOf<RichTextBoxWidget>(window, editor.txtClip)->textEdit();
+        QTextEdit* text = ViewOf<RichTextBoxWidget>(window, editor.txtClip)->textEdit();
         EXPECT_EQ(text->palette().color(QPalette::Base), QColor(0xC0, 0xFF, 0xC0)) << "pale green";
-        QTest::mouseClick(viewOf<CheckBoxWidget>(window, editor.chkProperties)->inner(), Qt::LeftButton);
+        QTest::mouseClick(ViewOf<CheckBoxWidget>(window, editor.chkProperties)->inner(), Qt::LeftButton);
         test::ProcessEvents();
-        EXPECT_TRUE(viewOf<ControlWidget>(window, editor.frameProperties)->isVisible());
+        EXPECT_TRUE(ViewOf<ControlWidget>(window, editor.frameProperties)->isVisible());
         test::SaveScreenshotOver(*main_, window, QStringLiteral("note-editor"));
-        QComboBox* colour = viewOf<ComboBoxWidget>(window, editor.cmbColor)->comboBox();
+        QComboBox* colour = ViewOf<ComboBoxWidget>(window, editor.cmbColor)->comboBox();
         QTest::keyClick(colour, Qt::Key_Up);  // green, yellow, orange
         QTest::keyClick(colour, Qt::Key_Up);
         text->moveCursor(QTextCursor::End);
         QTest::keyClicks(text, QStringLiteral("Compost heap"));
-        press(window, editor.cmdSaveClose);
+        Press(window, editor.cmdSaveClose);
     });
     clickRowAndPress("Ideas for the garden", Qt::Key_Return);
     EXPECT_EQ(SplitLines(file("allnotes.dat"))[2],
