@@ -114,17 +114,9 @@ TEST_F(TaskNoteWindowTest, TheTaskListMarksItsTasksAndATaskIsCompletedInTheEdito
     });
     clickRowAndPress("Ring the bank about the loan", Qt::Key_Return);
     EXPECT_EQ(SplitLines(file("D_tasks.dat"))[0],
-              "N200405160001\x1F"
-              "20040602\x1F"
-              "Home\x1F"
-              "0900\x1F"
-              "60\x1F"
-              "Email\x1F\x1F\x1F\x1F"
-              "20040602\x1F"
-              "0900\x1F"
-              "1 - Urgent\x1F"
-              "Completed\x1F\x1F"
-              "Ring the bank about the loan\x1F");
+              Replace("N200405160001|20040602|Home|0900|60|Email||||20040602|0900|1 - Urgent|Completed||Ring the bank "
+                      "about the loan|",
+                      "|", "\x1F"));
     EXPECT_EQ(MainForm().status.Panels(1).Text(), "20 of 30 Tasks shown") << "the active ones again";
 }
 
@@ -153,13 +145,9 @@ TEST_F(TaskNoteWindowTest, TheNoteListOpensANoteInItsColourAndSavesItsNewColour)
     });
     clickRowAndPress("Ideas for the garden", Qt::Key_Return);
     EXPECT_EQ(SplitLines(file("allnotes.dat"))[2],
-              "N200405160003\x1F"
-              "20040506\x1F"
-              "20040605\x1F\x1F"
-              "Orange       \x1F"
-              "Home\x1F"
-              "Ideas for the garden.txt\x1F"
-              "Ideas for the garden \x1F");
+              Replace("N200405160003|20040506|20040605||Orange       |Home|Ideas for the garden.txt|Ideas for the "
+                      "garden |",
+                      "|", "\x1F"));
     EXPECT_EQ(file("notes\\Ideas for the garden.txt"),
               "Ideas for the garden\r\nRaised beds by the fence\r\nA bench under the apple tree\r\nCompost "
               "heap\r\n");
