@@ -17,7 +17,7 @@ namespace orbidex {
 /// that the item view never hears of rows before it is told of them.
 class ListViewItemModel : public QAbstractTableModel {
 public:
-    ListViewItemModel(ListView& list, const ControlWidget& owner) : QAbstractTableModel(nullptr), list_(list), owner_(owner) {}
+    ListViewItemModel(ListView& list, ControlWidget& owner) : QAbstractTableModel(&owner), list_(list), owner_(owner) {}
 
     void reload() {
         beginResetModel();
@@ -108,7 +108,6 @@ private:
 
 ListViewWidget::ListViewWidget(ListView& control, QWidget* parent)
     : ControlWidget(control, parent), list_(control), items_(new ListViewItemModel(control, *this)) {
-    items_->setParent(this);
     setDeferredRefresh(true);
     refresh();
 }
