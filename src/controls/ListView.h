@@ -42,6 +42,8 @@ public:
     Property<bool> Sorted{this, false};
     Property<long> SortKey{this, 0};
     Property<int> SortOrder{this, lvwAscending};
+    /// The last column takes the width the others leave, however wide it was made.
+    Property<bool> LastColumnFills{this, false};
 
     /// The selected row (the last one chosen when several are), or null.
     ListItem* SelectedItem() const { return selected_; }

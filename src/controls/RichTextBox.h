@@ -63,6 +63,13 @@ public:
     bool LoadFile(const std::string& path, int fileType = rtfText);
     /// Writes the text to a file; false on failure.
     bool SaveFile(const std::string& path, int fileType = rtfText) const;
+    /// Takes back the user's last edit, as the window's edit command does; without a
+    /// window there is none to take back.
+    void Undo() {
+        if (undo_) undo_();
+    }
+    /// Set by the view, which keeps the user's edits.
+    void SetUndoHandler(std::function<void()> handler) { undo_ = std::move(handler); }
 
     /// The user edited: the box now holds these runs, the caret at `caret`.
     void UserEdit(const std::vector<TextRun>& runs, long caret);
@@ -89,6 +96,7 @@ private:
     bool hasTypingFormat_ = false;
     CharFormat typingFormat_;           ///< the format of text typed at the caret
     unsigned long contentVersion_ = 0;
+    std::function<void()> undo_;
 };
 
 }  // namespace orbidex

@@ -2,6 +2,7 @@
 // Dates and times of the event line as the dialogs' pickers hold them.
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 #include "foundation/DateHelpers.h"
@@ -42,6 +43,23 @@ inline VbDate TimeOfText(const std::string& hhmm) {
 /// time as a positive fraction too.
 inline VbDate AtTimeOfDay(VbDate day, VbDate time) {
     return day < 0 ? day - time : day + time;
+}
+
+/// The year and month of a date: the first six characters of "yyyymmdd".
+inline std::string YearAndMonth(VbDate date) {
+    return Left(FormatDate(date, "yyyymmdd"), 6);
+}
+
+/// The reminder's time for an entry of a lead-time list ("15 minutes", "1 hour   "):
+/// `start` less the lead time.  The unit is read from the entry's last seven
+/// characters, so the blanks behind "hour" and "hours" belong to the entries.  An
+/// entry of any other unit gives none, and the reminder stays as it is.
+inline std::optional<VbDate> RemindTimeBefore(const std::string& entry, VbDate start) {
+    const std::string unit = Trim(Right(entry, 7));
+    const double amount = Val(entry);
+    if (unit == "minutes") return DateAdd("n", -amount, start);
+    if (unit == "hours" || unit == "hour") return DateAdd("h", -amount, start);
+    return std::nullopt;
 }
 
 }  // namespace orbidex

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "config/clsConfigDiary.h"
-#include "controls/KeyCodes.h"
 #include "dialogs/DialogDates.h"
+#include "dialogs/EditorSupport.h"
 #include "dialogs/LaunchDocument.h"
 #include "diary/cDiaryRecord.h"
 #include "diary/cDiaryRecords.h"
@@ -29,8 +29,6 @@ constexpr OleColor kBlack = 0;
 const char* const kLeadTimes[] = {"0 minutes",  "5 minutes", "10 minutes", "15 minutes",
                                   "30 minutes", "1 hour   ", "2 hours  ",  "4 hours  "};
 constexpr long kFifteenMinutes = 3;
-
-const char* const kActions[] = {"View", "Edit", "Phone", "Email", "Website", "Visit", "Work", "Idea"};
 
 // Indexes of the captions in the label array.
 enum LabelIndex {
@@ -60,11 +58,6 @@ constexpr long kToggledHeight = 3695;
 // Rows of the two tabs and of the details panel.
 constexpr long kRowHeight = 315;
 constexpr long kRowStep = 390;
-
-// The date of a picker in the form of the first six characters of "yyyymmdd".
-std::string yearAndMonth(VbDate date) {
-    return Left(FormatDate(date, "yyyymmdd"), 6);
-}
 
 }  // namespace
 
@@ -236,12 +229,7 @@ void frmEditEvent::bindEvents() {
 
 void frmEditEvent::Form_Load() {
     answered_ = false;
-    for (int index : frameEvents.Indexes()) {
-        frameEvents(index).Move(90, 360);
-        frameEvents(index).BorderStyle = 0;
-    }
-    tabEvent.Tabs(1).Selected = true;
-    tabEvent_Click();
+    ShowFirstTab(tabEvent, frameEvents);
     cmbReminder.Clear();
     for (const char* lead : kLeadTimes) cmbReminder.AddItem(lead);
     cmbReminder.ListIndex = kFifteenMinutes;
@@ -261,7 +249,7 @@ void frmEditEvent::Form_Load() {
         }
     }
     showRecord();
-    showReminder();
+    reminder().Show(gCurrentEvent.DateRemind, gCurrentEvent.TimeRemind);
     caretToEndOfDetails();
     platform().SetBusyCursor(false);
 }
@@ -289,30 +277,13 @@ void frmEditEvent::showRecord() {
     cmbReference.Text = event.Reference;
     cmbActionToPerform.Text = event.ActionToPerform;
     if (cmbAction.ListCount() == 0)
-        for (const char* action : kActions) cmbAction.AddItem(action);
+        for (const char* action : kDefaultActions) cmbAction.AddItem(action);
     cmbAction.Text = event.Action;
 }
 
-void frmEditEvent::showReminder() {
-    const cDiaryRecord& event = gCurrentEvent;
-    const bool on = Val(orbidex::Left(event.DateRemind, 4)) != 0;
-    chkRemind.Value = on ? vbChecked : vbUnchecked;
-    if (on) {
-        DTPicker1.Value = DateOfText(event.DateRemind);
-        DTPicker2.Value = AtTimeOfDay(DTPicker1.Value, TimeOfText(event.TimeRemind));
-    } else {
-        DTPicker1.Value = dtPickDate.Value;
-        DTPicker2.Value = dtPickTime.Value;
-    }
-    showReminderState(on);
-}
-
-void frmEditEvent::showReminderState(bool on) {
-    DTPicker1.Enabled = on;
-    DTPicker2.Enabled = on;
-    cmbReminder.Enabled = on;
-    lbl(kLblReminderWillOccur).Visible = on;
-    lbl(kLblBeforeStart).Visible = on;
+ReminderControls frmEditEvent::reminder() {
+    return {chkRemind,  DTPicker1, DTPicker2, cmbReminder, lbl(kLblReminderWillOccur), lbl(kLblBeforeStart),
+            dtPickDate, dtPickTime};
 }
 
 void frmEditEvent::Form_Unload(int&) {
@@ -322,41 +293,23 @@ void frmEditEvent::Form_Unload(int&) {
 }
 
 void frmEditEvent::tabEvent_Click() {
-    const Tab* selected = tabEvent.SelectedItem();
-    const long shown = selected != nullptr ? selected->Index() - 1 : 0;
-    for (int index : frameEvents.Indexes()) frameEvents(index).Visible = index == shown;
+    ShowSelectedTab(tabEvent, frameEvents);
 }
 
 void frmEditEvent::chkRemind_Click() {
-    if (chkRemind.Value == vbChecked) {
-        DTPicker1.Value = dtPickDate.Value;
-        DTPicker2.Value = DateAdd("n", -15, dtPickTime.Value);
-        showReminderState(true);
-    } else {
-        showReminderState(false);
-    }
+    reminder().TickClicked();
 }
 
 void frmEditEvent::cmbReminder_Click() {
-    applyLeadTime(cmbReminder.Text);
+    reminder().ApplyLeadTime();
 }
 
 void frmEditEvent::dtPickTime_Change() {
-    applyLeadTime(cmbReminder.Text);
+    reminder().ApplyLeadTime();
 }
 
 void frmEditEvent::dtPickDate_Change() {
     DTPicker1.Value = dtPickDate.Value;
-}
-
-void frmEditEvent::applyLeadTime(const std::string& text) {
-    // The reminder's date stays: a lead time over midnight only moves the clock.
-    const std::string unit = Trim(Right(text, 7));
-    const double amount = Val(text);
-    if (unit == "minutes")
-        DTPicker2.Value = DateAdd("n", -amount, dtPickTime.Value);
-    else if (unit == "hours" || unit == "hour")
-        DTPicker2.Value = DateAdd("h", -amount, dtPickTime.Value);
 }
 
 void frmEditEvent::chkPrivate_Click() {
@@ -372,29 +325,17 @@ void frmEditEvent::txtDetails_Change() {
 }
 
 void frmEditEvent::txtDetails_KeyDown(int& keyCode, int) {
-    if (keyCode != vbKeyReturn) return;
-    const std::string text = txtDetails.Text;
-    if (Right(text, 2) != "\r\n") return;
-    const std::string cut = TrimAtNull(text);
-    if (cut != text) txtDetails.Text = cut;
+    if (!SecondEnterSaves(txtDetails, keyCode)) return;
     cmdOK_Click();
     if (IsUnloaded()) keyCode = 0;  // the Enter saved; it adds no line
 }
 
 void frmEditEvent::txtURL_OLEDragDrop(const DataObject& data) {
-    if (data.HasFiles()) {
-        txtURL.Text = data.Files.front();
-        return;
-    }
-    // An address is one line: a dropped text counts up to its first line break.
-    const std::string& text = data.Text;
-    txtURL.Text = text.substr(0, text.find_first_of("\r\n"));
+    txtURL.Text = DroppedAddress(data);
 }
 
 void frmEditEvent::cmdDetails_Click() {
-    const bool widen = cmdDetails.Caption == "Details >>";
-    cmdDetails.Caption = widen ? "Details <<" : "Details >>";
-    Move(Left, Top, widen ? kWideWidth : kNarrowWidth, kToggledHeight);
+    ToggleDetails(*this, cmdDetails, kWideWidth, kNarrowWidth, kToggledHeight);
 }
 
 void frmEditEvent::cmdLaunch_Click() {
@@ -417,7 +358,7 @@ void frmEditEvent::cmdCancel_Click() {
 void frmEditEvent::cmdOK_Click() {
     // Reminders are looked for only in the month file of their day.
     const bool remind = chkRemind.Value == vbChecked;
-    if (remind && yearAndMonth(DTPicker1.Value) != yearAndMonth(dtPickDate.Value)) {
+    if (remind && YearAndMonth(DTPicker1.Value) != YearAndMonth(dtPickDate.Value)) {
         platform().MsgBox("The remind date must be within the same month as the date of the event", vbOKOnly, "");
         return;
     }

@@ -19,6 +19,7 @@
 #include "controls/RichTextBox.h"
 #include "controls/TabStrip.h"
 #include "controls/TextBox.h"
+#include "dialogs/EditorSupport.h"
 
 namespace orbidex {
 
@@ -91,11 +92,7 @@ private:
     void bindEvents();
     void fillLists();
     void showRecord();
-    void showReminder();
-    /// Enables or greys the reminder's controls, as the tick box says.
-    void showReminderState(bool on);
-    /// Sets the reminder's time to the event's time less the lead time `text`.
-    void applyLeadTime(const std::string& text);
+    ReminderControls reminder();
     void caretToEndOfDetails();
 
     bool answered_ = false;  ///< OK or Cancel has run since the load

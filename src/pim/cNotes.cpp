@@ -2,7 +2,7 @@
 #include "pim/cNotes.h"
 
 #include "config/clsConfigDiary.h"
-#include "controls/Form.h"
+#include "dialogs/frmEditNote.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/FileSystem.h"
 #include "foundation/StringHelpers.h"
@@ -22,8 +22,7 @@ namespace {
 // The note editor, modal: it reads gCurrentNote, writes it and its body file on OK
 // and sets the dialog flags of glbConfig.
 void showNoteEditor() {
-    Form dialog("frmEditNote");
-    dialog.Caption = "Editing Note";
+    frmEditNote dialog;
     dialog.Show(true);
 }
 

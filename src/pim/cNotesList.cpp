@@ -64,7 +64,7 @@ void cNotes::InitNoteList(ListView& listControl) {
     gNoteHeadings = cNote();
     gNoteHeadings.title = "Title";
     listControl.ColumnHeaders.Clear();
-    listControl.ColumnHeaders.Add(" ");
+    listControl.ColumnHeaders.Add(" ", 0);  // the row's text, which is empty
     for (const HeadingColumn& column : kHeadingColumns) {
         std::string& caption = gNoteHeadings.*column.caption;
         if (caption.empty()) caption = kHidden;

@@ -3,7 +3,7 @@
 #include "pim/cTasks.h"
 
 #include "config/clsConfigDiary.h"
-#include "controls/Form.h"
+#include "dialogs/frmEditTask.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
@@ -22,8 +22,7 @@ namespace {
 // The task editor, modal: it reads gCurrentTask, writes it on OK and sets the
 // dialog flags of glbConfig.
 void showTaskEditor() {
-    Form dialog("frmEditTask");
-    dialog.Caption = "Edit Task";
+    frmEditTask dialog;
     dialog.Show(true);
 }
 

@@ -65,7 +65,15 @@ void cTasks::InitTaskList(ListView& listControl) {
         clsTimeSlots slots;  // the column routine of the event list does not read it
         glbEvents.InitListViewForTimedSchedule(slots, gTaskHeadings, listControl);
         listControl.ColumnHeaders(1).Width = 0;
+        // The statuses of the task editor's list read whole.
+        for (long i = 2; i <= listControl.ColumnHeaders.Count(); ++i)
+            if (listControl.ColumnHeaders(i).Text() == gTaskHeadings.status) listControl.ColumnHeaders(i).Width = 2880;
     } else {
+        // The calendar's font, as the settings file has it for the calendars.
+        const std::string font = glbConfig.GetValue("calendarView", "fontName");
+        if (!font.empty()) listControl.FontName = font;
+        const double size = Val(glbConfig.GetValue("calendarView", "fontSize"));
+        if (size > 0) listControl.FontSize = size;
         listControl.ColumnHeaders.Clear();
         listControl.ColumnHeaders.Add(" Task Details ");
     }

@@ -11,8 +11,9 @@ void RegisterProgramWindows(QtFormRegistry& registry) {
     registry.Register("frmClientDiaryMain",
                       [](Form& form) { return new MainWindow(static_cast<frmClientDiaryMain&>(form)); });
 
-    // The event dialogs: every control is drawn at its place by the form's window.
-    for (const char* dialog : {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator"})
+    // The editing dialogs: every control is drawn at its place by the form's window.
+    for (const char* dialog : {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator",
+                               "frmEditTask", "frmEditNote", "frmTemplateEdit"})
         registry.Register(dialog, [](Form& form) { return new FormWindow(form); });
 }
 

@@ -128,24 +128,6 @@ void clsDiaryCommand::unavailable(const std::string& what) {
     if (form_ != nullptr) form_->status.Panels(1).Text = text;
 }
 
-void clsDiaryCommand::TaskAdd(VbDate) {
-    unavailable("adding a task");
-}
-void clsDiaryCommand::TaskEdit() {
-    unavailable("editing a task");
-}
-void clsDiaryCommand::TaskDelete() {
-    unavailable("deleting a task");
-}
-void clsDiaryCommand::NoteAdd() {
-    unavailable("adding a note");
-}
-void clsDiaryCommand::NoteEdit() {
-    unavailable("editing a note");
-}
-void clsDiaryCommand::NoteDelete() {
-    unavailable("deleting a note");
-}
 void clsDiaryCommand::BookMeeting(VbDate, const std::string&) {
     unavailable("booking a meeting");
 }

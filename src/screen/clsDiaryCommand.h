@@ -10,6 +10,7 @@
 namespace orbidex {
 
 class FlexGrid;
+class ListItem;
 class ListView;
 class frmClientDiaryMain;
 
@@ -95,15 +96,43 @@ public:
     /// A tool bar button, or an entry of its drop-down menu, by its key.
     void ToolbarClicked(const std::string& key);
 
+    // The tasks.  Each turns timerSecond off while its dialog is open and draws the
+    // task list after, where the mode shows one.
+    /// A new task through the task editor.  The editor starts at the present moment,
+    /// whatever `date`.
+    void TaskAdd(VbDate date);
+    /// The current task in the editor; a task the list does not hold is added.
+    void TaskEdit();
+    /// The current task deleted, after the user agrees.
+    void TaskDelete();
+    /// The task of that identifier in the editor, as a double click on its row does;
+    /// false, and nothing opened, for an identifier the list does not hold.
+    bool OpenTask(const std::string& id);
+    /// Lists the tasks in lvCat: only the active ones, or all.  The calendar's task
+    /// list and its "Tasks" label, or the task mode's list with its filter buttons;
+    /// other modes keep their list.
+    void ShowTasks(bool onlyActive);
+    /// Numbers every task anew, by its date and line.
+    void ReIndexTasks();
+    /// The unfinished tasks as a page in the data folder, opened in the browser.
+    void ShowTasksInBrowser();
+
+    // The notes.  Each ends in the note mode, the notes listed.
+    /// A new note through the note editor.
+    void NoteAdd();
+    /// The current note in the editor; a note the list does not hold is added.
+    void NoteEdit();
+    /// The current note's line deleted, after the user agrees; its body file stays.
+    void NoteDelete();
+    /// The note of that identifier in the editor; false, and nothing opened, for an
+    /// identifier the list does not hold.
+    bool OpenNote(const std::string& id);
+    /// Rebuilds the note list from the notes folder, after the user agrees.
+    void RecreateNotes(bool keepFileNameAsTitle);
+
     // Operations that the program does not have yet.  The menu entries and tool bar
     // buttons that lead only here are disabled; the tree, whose nodes cannot be,
     // reaches them and the status bar says so.
-    void TaskAdd(VbDate date);
-    void TaskEdit();
-    void TaskDelete();
-    void NoteAdd();
-    void NoteEdit();
-    void NoteDelete();
     void BookMeeting(VbDate date, const std::string& time);
     void Search();
     void ShowOptions();
@@ -127,6 +156,11 @@ private:
     /// Enables the pop-up menu's entries that act on the current event when there is
     /// one, and with `menuBarToo` those of the Appointments menu.
     void enableEventEntries(bool menuBarToo);
+    /// What a list holds, by the mode: the task list beside the calendar holds tasks.
+    std::string listKind(const ListView& list) const;
+    /// A row of the task or note list becomes the current task or note.
+    void selectTask(const ListItem* item);
+    void selectNote(const ListItem* item);
     void timerOn(bool on);
     void unavailable(const std::string& what);
 

@@ -69,7 +69,7 @@ void clsDiaryCommand::ToolbarClicked(const std::string& key) {
         const bool all = key == "alltasks" || key == "showall";
         if (mode == "NOTE" && form_ != nullptr)
             form_->status.Panels(1).Text = all ? "All Notes already displayed" : "current Notes already displayed";
-        if (mode == "TASK") unavailable(all ? "the list of all tasks" : "the list of today's tasks");
+        if (mode == "TASK") ShowTasks(!all);
     } else if (key == "properties") {
         ShowOptions();
     } else if (key == "refresh") {

@@ -77,33 +77,46 @@ void clsDiaryCommand::MouseGridDbleClicked(FlexGrid& grid) {
     }
 }
 
+std::string clsDiaryCommand::listKind(const ListView& list) const {
+    std::string mode = glbScreen.Mode();
+    if (mode == "TASKS") mode = "TASK";
+    if (mode == "DIARY") mode = "CALENDAR";
+    if (mode == "CALENDAR" && &list == &form_->lvCat) return "TASK";
+    return mode;
+}
+
 void clsDiaryCommand::MouseListClicked(ListView& list) {
     if (form_ == nullptr) return;
-    const std::string& mode = glbScreen.Mode();
+    const std::string mode = listKind(list);
     ListItem* item = list.SelectedItem();
     if (mode == "CALENDAR") {
         if (item == nullptr) return;
         gintcur = AsCurrentIndex(glbEvents.SelectDiaryRecordFromID(item->Key));
         enableEventEntries(true);
+    } else if (mode == "TASK") {
+        selectTask(item);
+    } else if (mode == "NOTE") {
+        selectNote(item);
     } else if (mode == "MESSAGE") {
         if (item != nullptr) form_->status.Panels(1).Text = "Message = " + item->ToolTipText();
-    } else if (mode != "TASK" && mode != "NOTE") {
+    } else {
         platform().MsgBox("MouseListClicked not setup for this data type yet", vbOKOnly, "");
     }
 }
 
 void clsDiaryCommand::MouseListDbleClicked(ListView& list) {
     if (form_ == nullptr) return;
-    std::string mode = glbScreen.Mode();
-    if (mode == "TASKS") mode = "TASK";
-    if (mode == "DIARY") mode = "CALENDAR";
+    const std::string mode = listKind(list);
     const VbDate date = form_->MonthView1.Value;
     const bool empty = list.ListItems.Count() == 0;
+    // The row double-clicked is the one to open, however it was chosen.
     if (mode == "TASK") {
-        if (empty)
+        if (empty) {
             TaskAdd(date);
-        else
+        } else {
+            selectTask(list.SelectedItem());
             TaskEdit();
+        }
     } else if (mode == "CALENDAR") {
         if (empty)
             EventAdd(date, "");
@@ -111,10 +124,12 @@ void clsDiaryCommand::MouseListDbleClicked(ListView& list) {
             EventEdit();
         glbEvents.DiaryTopLevelDisplay(form_->MonthView1.Value);
     } else if (mode == "NOTE") {
-        if (empty)
+        if (empty) {
             NoteAdd();
-        else
+        } else {
+            selectNote(list.SelectedItem());
             NoteEdit();
+        }
     } else if (mode == "MESSAGE") {
         unavailable("reading a message");
     } else {

@@ -60,6 +60,7 @@ void clsDiaryScreen::SwitchMode(const std::string& mode, bool force) {
     showBars();
     form.lvUsers.ListItems.Clear();
     form.lvCat.ListItems.Clear();
+    form.lvCat.Sorted = false;  // each mode's list starts in its own order
     form.status.Panels(2).Text = mode_;
 
     // History and contacts only say so: the prior view stays as it is.
@@ -176,6 +177,7 @@ void clsDiaryScreen::setUpCalendar() {
     glbNumDaysToDisplay = glbConfig.DayWeekMonth;
     glbEvents.CalendarDateClicked(form, date);
     ResizeGridColumns(days);
+    glbTasks.DisplayInListView(form.lvCat, true);
 }
 
 // The task list fills the main area.
@@ -188,9 +190,9 @@ void clsDiaryScreen::setUpTasks() {
              &form.Label2},
             false);
     form.lvCat.Tag = "TASK";
-    form.status.Panels(1).Text = CStr(glbTasks.CountActive()) + " of " + CStr(glbTasks.Count()) + " Tasks shown";
     for (Menu& entry : form.mnuTaskMenu) form.EnableEntry(entry, true);
     toolbarForMode("TASK");
+    glbTasks.DisplayInListView(form.lvCat, true);  // and the count in the status bar
 }
 
 // The note list fills the main area.
@@ -203,8 +205,8 @@ void clsDiaryScreen::setUpNotes() {
              &form.Label2},
             false);
     form.lvCat.Tag = "NOTE";
-    form.status.Panels(1).Text = CStr(glbNotes.Count()) + " Notes";
     toolbarForMode("NOTE");
+    glbNotes.DisplayInListView(form.lvCat);  // and the count in the status bar
 }
 
 // The staff grid beside the calendar and the list of users.

@@ -20,6 +20,18 @@ namespace {
 
 std::unique_ptr<frmClientDiaryMain> gMainForm;
 
+// A click on a column's heading sorts by it, ascending; a second click on the same
+// heading turns the order round.
+void sortByColumn(ListView& list, const ColumnHeader& column) {
+    const long key = column.Index() - 1;
+    if (list.Sorted && list.SortKey == key)
+        list.SortOrder = list.SortOrder == lvwAscending ? lvwDescending : lvwAscending;
+    else
+        list.SortOrder = lvwAscending;
+    list.SortKey = key;
+    list.Sorted = true;
+}
+
 }  // namespace
 
 frmClientDiaryMain::frmClientDiaryMain() : Form("frmClientDiaryMain") {
@@ -39,6 +51,7 @@ void frmClientDiaryMain::placeControls() {
     tv.Visible = false;
     lvCat.View = lvwReport;
     lvCat.FullRowSelect = true;
+    lvCat.LastColumnFills = true;  // the task's text or the note's title
     lvDiary.View = lvwReport;
     lvDiary.FullRowSelect = true;
     lvUsers.View = lvwReport;
@@ -76,6 +89,9 @@ void frmClientDiaryMain::bindControls() {
     lvDiary.onDblClick = [this] { lvDiary_DblClick(); };
     lvDiary.onColumnClick = [this](ColumnHeader& column) { lvDiary_ColumnClick(column); };
     lvCat.onItemClick = [this](ListItem& item) { lvCat_ItemClick(item); };
+    lvCat.onDblClick = [this] { lvCat_DblClick(); };
+    lvCat.onKeyDown = [this](int& keyCode, int shift) { lvCat_KeyDown(keyCode, shift); };
+    lvCat.onColumnClick = [this](ColumnHeader& column) { lvCat_ColumnClick(column); };
     imgSplitter.onMouseDown = [this](int b, int s, long x, long y) { imgSplitter_MouseDown(b, s, x, y); };
     imgSplitter.onMouseMove = [this](int b, int s, long x, long y) { imgSplitter_MouseMove(b, s, x, y); };
     imgSplitter.onMouseUp = [this](int b, int s, long x, long y) { imgSplitter_MouseUp(b, s, x, y); };
@@ -173,17 +189,33 @@ void frmClientDiaryMain::lvDiary_DblClick() {
 }
 
 void frmClientDiaryMain::lvDiary_ColumnClick(ColumnHeader& column) {
-    const long key = column.Index() - 1;
-    if (lvDiary.Sorted && lvDiary.SortKey == key)
-        lvDiary.SortOrder = lvDiary.SortOrder == lvwAscending ? lvwDescending : lvwAscending;
-    else
-        lvDiary.SortOrder = lvwAscending;
-    lvDiary.SortKey = key;
-    lvDiary.Sorted = true;
+    sortByColumn(lvDiary, column);
 }
 
 void frmClientDiaryMain::lvCat_ItemClick(ListItem&) {
     glbCmd.MouseListClicked(lvCat);
+}
+
+void frmClientDiaryMain::lvCat_DblClick() {
+    glbCmd.MouseListDbleClicked(lvCat);
+}
+
+void frmClientDiaryMain::lvCat_KeyDown(int& keyCode, int) {
+    const std::string& mode = glbScreen.Mode();
+    if (keyCode == vbKeyReturn && (mode == "TASK" || mode == "NOTE" || mode == "CALENDAR")) {
+        keyCode = 0;
+        lvCat_DblClick();
+    } else if (keyCode == vbKeyDelete && (mode == "TASK" || mode == "NOTE")) {
+        keyCode = 0;
+        if (mode == "TASK")
+            glbCmd.TaskDelete();
+        else
+            glbCmd.NoteDelete();
+    }
+}
+
+void frmClientDiaryMain::lvCat_ColumnClick(ColumnHeader& column) {
+    sortByColumn(lvCat, column);
 }
 
 void frmClientDiaryMain::imgSplitter_MouseDown(int button, int, long x, long) {

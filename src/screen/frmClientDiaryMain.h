@@ -63,6 +63,12 @@ public:
     /// Sorts the event list by the column, turning the order round at a second click.
     void lvDiary_ColumnClick(ColumnHeader& column);
     void lvCat_ItemClick(ListItem& item);
+    /// Opens the row's task or note, or adds one to an empty list.
+    void lvCat_DblClick();
+    /// Enter does what a double click does; Delete deletes the selected task or note.
+    void lvCat_KeyDown(int& keyCode, int shift);
+    /// Sorts the list by the column, turning the order round at a second click.
+    void lvCat_ColumnClick(ColumnHeader& column);
 
     // The splitters: imgSplitter moves the border between the calendar column and the
     // main area, imgVert the border between the events and the browser pane under them.

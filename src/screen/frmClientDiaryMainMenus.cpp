@@ -17,18 +17,16 @@ namespace {
 // operation in this version of the program.
 const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
-        "mnuFileImport",     "mnuFileExport",        "mnuAppPlanMeeting",      "mnuTaskMenu",      "mnuTaskHeadings",
-        "mnuNotesMenu",      "mnuSearchQuick",       "mnuOptScrapPaper",       "mnuToolsCalendar", "mnuViewSetup",
-        "mnuOptionsDisplay", "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuBetaServerEnforce",
-        "mnuBetaReindexTask", "mnuBetaTest(0)",      "mnuBetaTest(1)",
-        "mnuHelpAbout",
+        "mnuFileImport",        "mnuFileExport",          "mnuAppPlanMeeting", "mnuTaskHeadings", "mnuNotesMenu(3)",
+        "mnuSearchQuick",       "mnuOptScrapPaper",       "mnuToolsCalendar",  "mnuViewSetup",    "mnuOptionsDisplay",
+        "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuBetaServerEnforce", "mnuBetaTest(0)", "mnuHelpAbout",
     };
     return names;
 }
 
 const std::set<std::string>& keysWithoutOperation() {
     static const std::set<std::string> keys = {
-        "Find", "year", "showall", "current", "refresh", "properties", "Task", "Note", "Meeting",
+        "Find", "year", "refresh", "properties", "Meeting",
     };
     return keys;
 }
@@ -36,12 +34,12 @@ const std::set<std::string>& keysWithoutOperation() {
 // The modes in which the tool bar's "new" button adds something; in the others it
 // does nothing yet and is disabled.
 bool newAddsIn(const std::string& mode) {
-    return mode == "HOME" || mode == "CALENDAR";
+    return mode == "HOME" || mode == "CALENDAR" || mode == "TASK" || mode == "NOTE";
 }
 
 // The modes in which the tool bar's "delete" button deletes the selected item.
 bool deleteActsIn(const std::string& mode) {
-    return mode == "CALENDAR";
+    return mode == "CALENDAR" || mode == "TASK" || mode == "NOTE";
 }
 
 }  // namespace
@@ -87,6 +85,7 @@ void frmClientDiaryMain::bindMenus() {
     mnuAppRecurring.onClick = [] { glbCmd.EventAddMultidayEvent(); };
     mnuAppPlanMeeting.onClick = [this] { glbCmd.BookMeeting(MonthView1.Value, ""); };
 
+    mnuTaskMenu[0].Shortcut = "Ctrl+T";
     for (int i = 0; i < static_cast<int>(mnuTaskMenu.size()); ++i) {
         mnuTaskMenu[i].SetIndex(i);
         mnuTaskMenu[i].onClick = [i] {
@@ -100,12 +99,15 @@ void frmClientDiaryMain::bindMenus() {
         glbScreen.SwitchMode("TASK");
         glbCmd.ShowOptions();
     };
+    mnuNotesMenu[0].Shortcut = "Ctrl+M";
     for (int i = 0; i < static_cast<int>(mnuNotesMenu.size()); ++i) {
         mnuNotesMenu[i].SetIndex(i);
         mnuNotesMenu[i].onClick = [i] {
             if (i == 0) glbCmd.NoteAdd();
             if (i == 1) glbCmd.NoteEdit();
             if (i == 2) glbCmd.NoteDelete();
+            if (i == 4) glbCmd.RecreateNotes(false);
+            if (i == 5) glbCmd.RecreateNotes(true);
             glbScreen.resize();
         };
     }
@@ -124,8 +126,10 @@ void frmClientDiaryMain::bindMenus() {
     mnuServerLogoff.onClick = [] { glbComms.Logoff(); };
 
     mnuBetaTestLog.onClick = [] { glbCmd.ToggleDetailedLogging(); };
+    mnuBetaReindexTask.onClick = [] { glbCmd.ReIndexTasks(); };
     mnuBetaRestart.onClick = [] { glbCmd.RestartProgram(); };
     for (int i = 0; i < static_cast<int>(mnuBetaTest.size()); ++i) mnuBetaTest[i].SetIndex(i);
+    mnuBetaTest[1].onClick = [] { glbCmd.ShowTasksInBrowser(); };
     mnuBetaTest[2].onClick = [] { glbCmd.ShowViewTotals(); };
     mnuBetaTest[3].onClick = [] { glbCmd.ShowEventCount(); };
 

@@ -140,9 +140,14 @@ TEST_F(NotesTest, EditingCountsAndStoresTheLine) {
     glbNotes.Edit();
     EXPECT_EQ(ReadBytes(notesFile), before);
 
+    // A note the list does not hold: said, then the editor opens on a new note.
     gCurrentNote.title = "Not in the list";
+    QueueEditor(
+        "frmEditNote", [] {}, true);
     glbNotes.Edit();
     EXPECT_EQ(platform_.MessageTexts(), std::vector<std::string>{"No note selected"});
+    EXPECT_EQ(platform_.FormsShown().size(), 3U);
+    EXPECT_EQ(ReadBytes(notesFile), before);
 }
 
 TEST_F(NotesTest, ADeletedNoteKeepsItsBodyAndARebuildBringsItBack) {

@@ -152,10 +152,12 @@ TEST_F(TasksTest, CompletingATaskInTheEditorStoresItsLineAndCancelKeepsIt) {
     EXPECT_EQ(ReadBytes(gStrTasksFile), before);
     EXPECT_TRUE(glbConfig.dialogEditing);  // until the next Add
 
-    // A task the list does not hold goes to the add command; no editor opens.
+    // A task the list does not hold is added: the editor opens on a new task.
     gCurrentTask = Task("Not in the list");
+    QueueEditor("frmEditTask", [] { EXPECT_FALSE(glbConfig.dialogEditing); });
     glbTasks.Edit();
-    EXPECT_EQ(platform_.FormsShown().size(), 2U);
+    EXPECT_EQ(platform_.FormsShown().size(), 3U);
+    EXPECT_EQ(Lines("D_tasks.dat").size(), 5U);
 }
 
 TEST_F(TasksTest, DeletingTakesTheLineOutButNotTheFirstOfATableJustLoaded) {

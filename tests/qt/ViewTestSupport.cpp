@@ -5,7 +5,9 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QImage>
+#include <QPainter>
 #include <QPixmap>
+#include <algorithm>
 
 #include "controls/Control.h"
 #include "qt/views/ControlWidget.h"
@@ -17,6 +19,23 @@ QString SaveScreenshot(QWidget& widget, const QString& name) {
     const QString path = QDir(QStringLiteral("screenshots")).absoluteFilePath(name + QStringLiteral(".png"));
     widget.grab().save(path);
     return path;
+}
+
+void SaveScreenshotOver(QWidget& main, QWidget& dialog, const QString& name) {
+    ProcessEvents();
+    QPixmap shot = main.grab();
+    const QPixmap top = dialog.grab();
+    QPoint at = dialog.mapToGlobal(QPoint(0, 0)) - main.mapToGlobal(QPoint(0, 0));
+    if (dialog.pos().isNull() || at.x() < 0 || at.y() < 0) at = QPoint(shot.width() - top.width(), shot.height() - top.height()) / 2;
+    at.setX(std::clamp(at.x(), 0, std::max(0, shot.width() - top.width())));
+    at.setY(std::clamp(at.y(), 0, std::max(0, shot.height() - top.height())));
+    QPainter painter(&shot);
+    painter.drawPixmap(at, top);
+    painter.setPen(Qt::darkGray);
+    painter.drawRect(QRect(at, top.size()).adjusted(0, 0, -1, -1));
+    painter.end();
+    QDir().mkpath(QStringLiteral("screenshots"));
+    shot.save(QStringLiteral("screenshots/") + name + QStringLiteral(".png"));
 }
 
 QColor ColorAt(QWidget& widget, QPoint pos) {

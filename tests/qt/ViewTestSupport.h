@@ -32,6 +32,10 @@ std::unique_ptr<View> Shown(Model& model, QSize size = QSize(300, 200)) {
 /// Saves what `widget` shows as screenshots/<name>.png under the test's working
 /// folder and gives the file's path.
 QString SaveScreenshot(QWidget& widget, const QString& name);
+/// Saves `main` with `dialog` drawn over it, framed: where the dialog stands, or, for
+/// one that leaves its place to the window manager (or stands above or left of the
+/// main window), in the middle.
+void SaveScreenshotOver(QWidget& main, QWidget& dialog, const QString& name);
 /// The colour `widget` draws at `pos`.
 QColor ColorAt(QWidget& widget, QPoint pos);
 

@@ -63,34 +63,31 @@ TEST_F(CommandsTest, GridOrListIsSavedAndShown) {
 
 TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
     StartProgram();
-    for (Menu* entry : {&Form().mnuFileImport, &Form().mnuSearchQuick, &Form().mnuTaskMenu[0], &Form().mnuNotesMenu[5],
+    for (Menu* entry : {&Form().mnuFileImport, &Form().mnuSearchQuick, &Form().mnuTaskHeadings, &Form().mnuNotesMenu[3],
                         &Form().mnuBetaTest[0], &Form().mnuAppPlanMeeting})
         EXPECT_FALSE(entry->Enabled) << entry->Name();
-    for (Menu* entry : {&Form().mnuFilePrint, &Form().mnuFileExit, &Form().mnuViewMode[2], &Form().mnuViewRefresh,
-                        &Form().mnuBetaTest[3], &Form().mnuHelpContents, &Form().mnuAppAdd, &Form().mnuAppRecurring,
-                        &Form().mnuPopupGridAdd, &Form().mnuPingServer, &Form().mnuServerLogoff})
+    for (Menu* entry :
+         {&Form().mnuFilePrint, &Form().mnuFileExit, &Form().mnuViewMode[2], &Form().mnuViewRefresh,
+          &Form().mnuBetaTest[3], &Form().mnuHelpContents, &Form().mnuAppAdd, &Form().mnuAppRecurring,
+          &Form().mnuPopupGridAdd, &Form().mnuTaskMenu[0], &Form().mnuNotesMenu[5], &Form().mnuBetaReindexTask,
+          &Form().mnuPingServer, &Form().mnuServerLogoff})
         EXPECT_TRUE(entry->Enabled) << entry->Name();
 
-    // A task list asks to enable its entries; they stay off, and a click does nothing.
-    glbScreen.SwitchMode("TASK");
-    const std::string panel = Panel(1);
-    EXPECT_FALSE(Form().mnuTaskMenu[0].Enabled);
-    Form().mnuTaskMenu[0].UserClick();
-    EXPECT_EQ(Panel(1), panel);
+    // A click on a row asks to enable the notes' entries; the field picker stays off.
+    glbScreen.SwitchMode("NOTE");
+    Form().mnuNotesMenu[3].UserClick();
+    EXPECT_FALSE(Form().mnuNotesMenu[3].Enabled);
 
-    // "new" adds only where it has something to add: events, on the overview and the calendar.
+    // "new" adds where there is something to add: events, tasks and notes.
     Toolbar& bar = Form().Toolbar1;
-    EXPECT_FALSE(bar.Buttons("new").Enabled);
-    EXPECT_FALSE(bar.Buttons("new").ButtonMenus(2)->Enabled);
-    EXPECT_TRUE(bar.Buttons("new").ButtonMenus(1)->Enabled);
     EXPECT_FALSE(bar.Buttons("Find").Enabled);
     EXPECT_TRUE(bar.Buttons("print").Enabled);
-    bar.UserClickButton(bar.Buttons("new"));
-    bar.UserClickButtonMenu(*bar.Buttons("new").ButtonMenus(2));
-    EXPECT_EQ(Panel(1), panel);
-    for (const char* mode : {"HOME", "CALENDAR", "NOTE", "MESSAGE"}) {
+    EXPECT_TRUE(bar.Buttons("new").ButtonMenus(2)->Enabled);
+    for (const char* mode : {"HOME", "CALENDAR", "TASK", "NOTE", "MESSAGE", "STAFF"}) {
         glbScreen.SwitchMode(mode);
-        EXPECT_EQ(bar.Buttons("new").Enabled(), std::string(mode) == "HOME" || std::string(mode) == "CALENDAR") << mode;
+        const bool adds = std::string(mode) != "MESSAGE" && std::string(mode) != "STAFF";
+        EXPECT_EQ(bar.Buttons("new").Enabled(), adds) << mode;
+        EXPECT_EQ(bar.Buttons("delete").Enabled(), adds && std::string(mode) != "HOME") << mode;
     }
 }
 
@@ -112,9 +109,9 @@ TEST_F(CommandsTest, TreeKeysLeadIntoTheirModes) {
     EXPECT_EQ(glbScreen.Mode(), "HOME");
 
     // A node whose command the program does not have yet says so.
-    tree.UserClickNode(*tree.Nodes.Item("NOTE_ADDNEW"));
-    EXPECT_EQ(glbScreen.Mode(), "NOTE");
-    EXPECT_EQ(Panel(1), "Not available yet: adding a note");
+    tree.UserClickNode(*tree.Nodes.Item("CALENDAR_VIEWYEAR"));
+    EXPECT_EQ(glbScreen.Mode(), "CALENDAR");
+    EXPECT_EQ(Panel(1), "Not available yet: the annual calendar");
 
     Form().lvView.UserClickItem(Form().lvView.ListItems(3));
     EXPECT_EQ(glbScreen.Mode(), "TASK");

@@ -4,18 +4,14 @@
 // each dialog over it.
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QMenuBar>
-#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <QTextEdit>
 #include <algorithm>
 
-#include "TempFolder.h"
+#include "ProgramWindowFixture.h"
 #include "ViewTestSupport.h"
-#include "WindowTestPlatform.h"
 #include "dialogs/frmDateGenerator.h"
 #include "dialogs/frmEditEvent.h"
 #include "dialogs/frmEventMultiple.h"
@@ -23,9 +19,6 @@
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbString.h"
-#include "foundation/modMain.h"
-#include "qt/QtFormRegistry.h"
-#include "qt/views/CommandButtonWidget.h"
 #include "qt/views/FlexGridWidget.h"
 #include "qt/views/FormWindow.h"
 #include "qt/views/OptionButtonWidget.h"
@@ -46,15 +39,6 @@ std::string Line(const std::string& id, const std::string& date, const std::stri
 
 const std::string kBank = Line("D200406050001", "20040605", "1400", "Ring the bank");
 
-template <typename View>
-View* viewOf(QWidget& window, const Control& control) {
-    return static_cast<View*>(static_cast<FormWindow&>(window).viewOf(control));
-}
-
-void press(QWidget& window, const CommandButton& button) {
-    QTest::mouseClick(viewOf<CommandButtonWidget>(window, button)->button(), Qt::LeftButton);
-}
-
 /// The lines of the month's file that hold `details`.
 std::vector<std::string> linesWith(const std::string& file, const std::string& details) {
     std::string bytes;
@@ -67,73 +51,27 @@ std::vector<std::string> linesWith(const std::string& file, const std::string& d
 
 }  // namespace
 
-class EventWindowTest : public ::testing::Test {
+class EventWindowTest : public test::ProgramWindowFixture {
 protected:
-    void SetUp() override {
-        ResetProgramState();
-        data_ = folder_.Stored() + "\\data\\";
-        MakeFolder(data_);
-        WriteWholeFile(data_ + "D200406.dat", June());
-        RegisterProgramWindows(forms_);
-        SetPlatform(&platform_);
-        modMain("LOCAL");
-        main_ = platform_.WindowOf(MainForm());
-        ASSERT_NE(main_, nullptr);
-        main_->resize(1100, 720);
-        test::ProcessEvents();
-    }
-    void TearDown() override {
-        ResetProgramState();
-        test::ProcessEvents();
-        SetPlatform(nullptr);
-    }
+    void WriteData() override { WriteWholeFile(data_ + "D200406.dat", June()); }
 
     /// The month's file the program starts on.
     virtual std::string June() const { return kBank; }
-    FlexGridWidget& grid() { return *viewOf<FlexGridWidget>(*main_, MainForm().gridDays); }
+    FlexGridWidget& grid() { return *ViewOf<FlexGridWidget>(*main_, MainForm().gridDays); }
     QPoint cell(long row, long col) { return grid().cellRect(row, col).center(); }
     void doubleClick(long row, long col) {
         QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cell(row, col));
         QTest::mouseDClick(grid().viewport(), Qt::LeftButton, {}, cell(row, col));
     }
-    QAction* menuEntry(const QString& caption) {
-        for (QAction* top : static_cast<FormWindow*>(main_)->menuBar()->actions())
-            for (QAction* action : top->menu() != nullptr ? top->menu()->actions() : QList<QAction*>{})
-                if (action->text() == caption) return action;
-        return nullptr;
-    }
     /// Types into the event editor's text in place of what it holds, then saves.
     void typeAndSave(QWidget& window, frmEditEvent& form, const QString& text) {
-        QTextEdit* edit = viewOf<RichTextBoxWidget>(window, form.txtDetails)->textEdit();
+        QTextEdit* edit = ViewOf<RichTextBoxWidget>(window, form.txtDetails)->textEdit();
         edit->setFocus();
         edit->selectAll();
         QTest::keyClicks(edit, text);
-        press(window, form.cmdOK);
+        Press(window, form.cmdOK);
     }
-    /// The main window with `dialog` drawn over it, framed: where the dialog stands,
-    /// or, for one that leaves its place to the window manager, in the middle.
-    void screenshotOver(QWidget& dialog, const QString& name) {
-        test::ProcessEvents();
-        QPixmap shot = main_->grab();
-        const QPixmap top = dialog.grab();
-        QPoint at = dialog.mapToGlobal(QPoint(0, 0)) - main_->mapToGlobal(QPoint(0, 0));
-        if (dialog.pos().isNull()) at = QPoint(shot.width() - top.width(), shot.height() - top.height()) / 2;
-        at.setX(std::clamp(at.x(), 0, std::max(0, shot.width() - top.width())));
-        at.setY(std::clamp(at.y(), 0, std::max(0, shot.height() - top.height())));
-        QPainter painter(&shot);
-        painter.drawPixmap(at, top);
-        painter.setPen(Qt::darkGray);
-        painter.drawRect(QRect(at, top.size()).adjusted(0, 0, -1, -1));
-        painter.end();
-        QDir().mkpath(QStringLiteral("screenshots"));
-        shot.save(QStringLiteral("screenshots/") + name + QStringLiteral(".png"));
-    }
-
-    test::TempFolder folder_;
-    std::string data_;
-    QtFormRegistry forms_;
-    test::WindowTestPlatform platform_{forms_, folder_.Stored()};
-    QWidget* main_ = nullptr;
+    void screenshotOver(QWidget& dialog, const QString& name) { test::SaveScreenshotOver(*main_, dialog, name); }
 };
 
 TEST_F(EventWindowTest, ADoubleClickOnTheGridAddsAnEventAndAnotherEditsIt) {
@@ -170,12 +108,12 @@ TEST_F(EventWindowTest, TheRescheduleAndMultiDayDialogsOverTheMainWindow) {
     QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cell(11, 2));  // 14:00, the bank
     platform_.OnNextModal([this](Form& form, QWidget& window) {
         auto& dialog = static_cast<frmRescheduleEvent&>(form);
-        QTest::mouseClick(viewOf<OptionButtonWidget>(window, dialog.optMoveAhead(0))->radioButton(), Qt::LeftButton);
+        QTest::mouseClick(ViewOf<OptionButtonWidget>(window, dialog.optMoveAhead(0))->radioButton(), Qt::LeftButton);
         screenshotOver(window, QStringLiteral("reschedule-over-main"));
-        press(window, dialog.cmdOK);
+        Press(window, dialog.cmdOK);
     });
-    ASSERT_NE(menuEntry(QStringLiteral("&Reschedule this Appointment")), nullptr);
-    menuEntry(QStringLiteral("&Reschedule this Appointment"))->trigger();
+    ASSERT_NE(MenuEntry(QStringLiteral("&Reschedule this Appointment")), nullptr);
+    MenuEntry(QStringLiteral("&Reschedule this Appointment"))->trigger();
     const std::vector<std::string> moved = linesWith(data_ + "D200406.dat", "Ring the bank");
     ASSERT_EQ(moved.size(), 1U);
     EXPECT_EQ(Split(moved[0], "\x1F").at(1), "20040606") << "the next day";
@@ -184,15 +122,15 @@ TEST_F(EventWindowTest, TheRescheduleAndMultiDayDialogsOverTheMainWindow) {
         auto& dialog = static_cast<frmEventMultiple&>(form);
         platform_.OnNextModal([this](Form& inner, QWidget& generator) {
             screenshotOver(generator, QStringLiteral("date-generator-over-main"));
-            press(generator, static_cast<frmDateGenerator&>(inner).cmdOk);
+            Press(generator, static_cast<frmDateGenerator&>(inner).cmdOk);
         });
-        press(window, dialog.cmdPickDates);
+        Press(window, dialog.cmdPickDates);
         EXPECT_EQ(dialog.lvDateList.ListItems.Count(), 4);  // 4 to 7 June
         screenshotOver(window, QStringLiteral("multi-day-over-main"));
-        press(window, dialog.cmdCancel);
+        Press(window, dialog.cmdCancel);
     });
-    ASSERT_NE(menuEntry(QStringLiteral("Add &Multiple Day Event")), nullptr);
-    menuEntry(QStringLiteral("Add &Multiple Day Event"))->trigger();
+    ASSERT_NE(MenuEntry(QStringLiteral("Add &Multiple Day Event")), nullptr);
+    MenuEntry(QStringLiteral("Add &Multiple Day Event"))->trigger();
     EXPECT_TRUE(MainForm().timerSecond.Enabled);
 }
 
@@ -287,10 +225,10 @@ TEST_F(SavedMonthWindowTest, ReschedulingTheEventClickedAfterASaveMovesThatEvent
         auto& dialog = static_cast<frmRescheduleEvent&>(form);
         EXPECT_EQ(dialog.txtDetails.Text(), "Ring the bank");
         EXPECT_EQ(FormatDate(dialog.dtPickDate.Value, "yyyymmdd"), "20040605");
-        QTest::mouseClick(viewOf<OptionButtonWidget>(window, dialog.optMoveAhead(0))->radioButton(), Qt::LeftButton);
-        press(window, dialog.cmdOK);
+        QTest::mouseClick(ViewOf<OptionButtonWidget>(window, dialog.optMoveAhead(0))->radioButton(), Qt::LeftButton);
+        Press(window, dialog.cmdOK);
     });
-    menuEntry(QStringLiteral("&Reschedule this Appointment"))->trigger();
+    MenuEntry(QStringLiteral("&Reschedule this Appointment"))->trigger();
     EXPECT_EQ(june(), kStandupAtNine + kLunch + Line("D200406060001", "20040606", "1400", "Ring the bank"));
     EXPECT_EQ(monthFiles(), (std::vector<std::string>{"D200406.dat", "D200406.dat_NET"}));
 }

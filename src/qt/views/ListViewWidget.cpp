@@ -17,7 +17,7 @@ namespace orbidex {
 /// that the item view never hears of rows before it is told of them.
 class ListViewItemModel : public QAbstractTableModel {
 public:
-    explicit ListViewItemModel(ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
+    ListViewItemModel(ListView& list, ControlWidget& owner) : QAbstractTableModel(&owner), list_(list), owner_(owner) {}
 
     void reload() {
         beginResetModel();
@@ -29,7 +29,9 @@ public:
         if (rows_ > 0) emit dataChanged(index(0, 0), index(rows_ - 1, columns_ - 1));
         emit headerDataChanged(Qt::Horizontal, 0, columns_ - 1);
     }
-    ListItem* itemAt(int row) const { return row >= 0 && row < rows_ ? list_.ListItems.Item(row + 1) : nullptr; }
+    ListItem* itemAt(int row) const {
+        return alive() && row >= 0 && row < rows_ ? list_.ListItems.Item(row + 1) : nullptr;
+    }
     void setIconStyle(bool icons) { icons_ = icons; }
 
     int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : rows_; }
@@ -75,14 +77,14 @@ public:
     }
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
-        if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+        if (!alive() || orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
         const ColumnHeader* header = list_.ColumnHeaders.Item(section + 1);
         return header != nullptr ? ToQString(header->Text) : QString();
     }
 
     Qt::ItemFlags flags(const QModelIndex& index) const override {
         Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled;
-        if (index.column() == 0 && list_.Checkboxes) flags |= Qt::ItemIsUserCheckable;
+        if (alive() && index.column() == 0 && list_.Checkboxes) flags |= Qt::ItemIsUserCheckable;
         return flags;
     }
 
@@ -94,14 +96,18 @@ public:
     }
 
 private:
+    /// The list goes before its view: what the view asks then has no answer.
+    bool alive() const { return owner_.model() != nullptr; }
+
     ListView& list_;
+    const ControlWidget& owner_;
     int rows_ = 0;
     int columns_ = 1;
     bool icons_ = false;
 };
 
 ListViewWidget::ListViewWidget(ListView& control, QWidget* parent)
-    : ControlWidget(control, parent), list_(control), items_(new ListViewItemModel(control, this)) {
+    : ControlWidget(control, parent), list_(control), items_(new ListViewItemModel(control, *this)) {
     setDeferredRefresh(true);
     refresh();
 }
@@ -124,8 +130,10 @@ void ListViewWidget::build(bool report) {
         connect(tree->header(), &QHeaderView::sectionClicked, this, [this](int section) {
             if (!syncing() && model() != nullptr) list_.UserClickColumn(section + 1);
         });
-        connect(tree->header(), &QHeaderView::sectionResized, this, [this](int section, int, int size) {
+        connect(tree->header(), &QHeaderView::sectionResized, this, [this, tree](int section, int, int size) {
             if (syncing() || model() == nullptr) return;
+            // A last column that fills the list keeps the width the program gave it.
+            if (tree->header()->stretchLastSection() && section == tree->header()->count() - 1) return;
             if (ColumnHeader* column = list_.ColumnHeaders.Item(section + 1)) column->Width = PixelsToTwips(size);
         });
         view_ = tree;
@@ -146,6 +154,13 @@ void ListViewWidget::build(bool report) {
         if (syncing() || model() == nullptr) return;
         if (ListItem* item = items_->itemAt(index.row())) list_.UserDblClickItem(*item);
     });
+    // A key that moves to another row selects it as a click does (a click tells of
+    // itself when the button comes up).
+    connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& current) {
+        if (syncing() || model() == nullptr || QGuiApplication::mouseButtons() != Qt::NoButton) return;
+        ListItem* item = items_->itemAt(current.row());
+        if (item != nullptr && item != list_.SelectedItem()) list_.UserClickItem(*item);
+    });
     shownVersion_ = ~0UL;
 }
 
@@ -155,6 +170,8 @@ void ListViewWidget::applyColumnWidths() {
     for (long i = 1; i <= list_.ColumnHeaders.Count(); ++i) {
         const long width = list_.ColumnHeaders(i).Width;
         tree->header()->resizeSection(static_cast<int>(i - 1), TwipsToPixels(width));
+        // A column of no width is not shown, however narrow the header lets a column be.
+        tree->header()->setSectionHidden(static_cast<int>(i - 1), width <= 0);
     }
 }
 
@@ -181,6 +198,7 @@ void ListViewWidget::syncFromModel() {
     if (QTreeView* tree = treeView()) {
         applyColumnWidths();
         tree->setHeaderHidden(list_.HideColumnHeaders);
+        tree->header()->setStretchLastSection(list_.LastColumnFills);
         tree->header()->setSortIndicatorShown(list_.Sorted);
         tree->header()->setSortIndicator(static_cast<int>(list_.SortKey),
                                          list_.SortOrder == lvwDescending ? Qt::DescendingOrder : Qt::AscendingOrder);

@@ -41,7 +41,14 @@ RichTextBoxWidget::RichTextBoxWidget(RichTextBox& control, QWidget* parent)
     connect(edit_, &QTextEdit::textChanged, this, [this] { userEdited(); });
     connect(edit_, &QTextEdit::cursorPositionChanged, this, [this] { userSelected(); });
     connect(edit_, &QTextEdit::selectionChanged, this, [this] { userSelected(); });
+    rich_.SetUndoHandler([this] { edit_->undo(); });
+    // A control with a right-button handler shows its own menu.
+    if (control.onMouseDown) edit_->setContextMenuPolicy(Qt::NoContextMenu);
     refresh();
+}
+
+RichTextBoxWidget::~RichTextBoxWidget() {
+    if (model() != nullptr) rich_.SetUndoHandler(nullptr);
 }
 
 void RichTextBoxWidget::userEdited() {
@@ -78,9 +85,12 @@ void RichTextBoxWidget::userSelected() {
 
 void RichTextBoxWidget::syncFromModel() {
     if (shownVersion_ != rich_.ContentVersion()) {
+        // Only the user's edits can be taken back, not a text the program put there.
+        edit_->setUndoRedoEnabled(false);
         edit_->clear();
         QTextCursor cursor(edit_->document());
         for (const TextRun& run : rich_.Runs()) cursor.insertText(ToQString(run.text), toCharFormat(run.format));
+        edit_->setUndoRedoEnabled(true);
         shownVersion_ = rich_.ContentVersion();
     }
     const std::string text = rich_.Text;

@@ -1,6 +1,7 @@
 #pragma once
 // Draws a RichTextBox with each stretch of text in its own colour, size, weight
 // and font, and hands the user's edits (with their formats) and selection back.
+// The model's Undo takes back the user's last edit in the widget.
 
 #include "qt/views/ControlWidget.h"
 
@@ -14,6 +15,7 @@ class RichTextBoxWidget : public ControlWidget {
     Q_OBJECT
 public:
     RichTextBoxWidget(RichTextBox& model, QWidget* parent = nullptr);
+    ~RichTextBoxWidget() override;
     QTextEdit* textEdit() const { return edit_; }
 
 protected:
