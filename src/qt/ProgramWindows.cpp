@@ -14,6 +14,10 @@ void RegisterProgramWindows(QtFormRegistry& registry) {
     // The event dialogs: every control is drawn at its place by the form's window.
     for (const char* dialog : {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator"})
         registry.Register(dialog, [](Form& form) { return new FormWindow(form); });
+
+    // The windows shown without waiting: the chat and the note.
+    for (const char* window : {"frmChat", "frmStickyNote"})
+        registry.Register(window, [](Form& form) { return new FormWindow(form); });
 }
 
 }  // namespace orbidex

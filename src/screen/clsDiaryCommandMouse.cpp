@@ -7,6 +7,7 @@
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
 #include "platform/Platform.h"
+#include "network/cMessages.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
@@ -116,7 +117,9 @@ void clsDiaryCommand::MouseListDbleClicked(ListView& list) {
         else
             NoteEdit();
     } else if (mode == "MESSAGE") {
-        unavailable("reading a message");
+        // The line that says there are none opens nothing.
+        if (const ListItem* item = list.SelectedItem(); item != nullptr && item->Key != "NULL")
+            glbMessages.ShowMessageFromList(*item);
     } else {
         platform().MsgBox("MouseListDbleClicked not setup for this data type yet", vbOKOnly, "");
     }

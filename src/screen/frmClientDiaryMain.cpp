@@ -11,6 +11,7 @@
 #include "diary/cDiaryRecords.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
+#include "network/cMessages.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
 
@@ -76,6 +77,8 @@ void frmClientDiaryMain::bindControls() {
     lvDiary.onDblClick = [this] { lvDiary_DblClick(); };
     lvDiary.onColumnClick = [this](ColumnHeader& column) { lvDiary_ColumnClick(column); };
     lvCat.onItemClick = [this](ListItem& item) { lvCat_ItemClick(item); };
+    lvCat.onDblClick = [this] { lvCat_DblClick(); };
+    lvCat.onKeyDown = [this](int& keyCode, int shift) { lvCat_KeyDown(keyCode, shift); };
     imgSplitter.onMouseDown = [this](int b, int s, long x, long y) { imgSplitter_MouseDown(b, s, x, y); };
     imgSplitter.onMouseMove = [this](int b, int s, long x, long y) { imgSplitter_MouseMove(b, s, x, y); };
     imgSplitter.onMouseUp = [this](int b, int s, long x, long y) { imgSplitter_MouseUp(b, s, x, y); };
@@ -184,6 +187,26 @@ void frmClientDiaryMain::lvDiary_ColumnClick(ColumnHeader& column) {
 
 void frmClientDiaryMain::lvCat_ItemClick(ListItem&) {
     glbCmd.MouseListClicked(lvCat);
+}
+
+void frmClientDiaryMain::lvCat_DblClick() {
+    glbCmd.MouseListDbleClicked(lvCat);
+}
+
+void frmClientDiaryMain::lvCat_KeyDown(int& keyCode, int) {
+    const std::string& mode = glbScreen.Mode();
+    if (keyCode == vbKeyReturn && (mode == "TASK" || mode == "NOTE" || mode == "CALENDAR" || mode == "MESSAGE")) {
+        keyCode = 0;
+        lvCat_DblClick();
+    } else if (keyCode == vbKeyDelete && (mode == "TASK" || mode == "NOTE" || mode == "MESSAGE")) {
+        keyCode = 0;
+        if (mode == "TASK")
+            glbCmd.TaskDelete();
+        else if (mode == "NOTE")
+            glbCmd.NoteDelete();
+        else
+            glbMessages.DeleteMessages();
+    }
 }
 
 void frmClientDiaryMain::imgSplitter_MouseDown(int button, int, long x, long) {

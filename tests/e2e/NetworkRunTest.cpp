@@ -141,8 +141,9 @@ TEST_F(NetworkRunTest, TwoClientsShareThroughTheServerAndLoseNothingWhenItDies) 
     StartClient(alice, "alice");
     StartClient(bob, "bob");
     const std::string bothOn = "alice,Logged On\r\nbob,Logged On\r\n";
+    // The server writes the lists one after the other.
     ASSERT_TRUE(waitUntil([&] { return SharedFile("alice/USERS.TXT") == bothOn; }));
-    EXPECT_EQ(SharedFile("bob/USERS.TXT"), bothOn);
+    EXPECT_TRUE(waitUntil([&] { return SharedFile("bob/USERS.TXT") == bothOn; })) << SharedFile("bob/USERS.TXT");
 
     // Each hands over the month with the event just added.
     AddEvent(alice, "Team lunch with Bob");

@@ -42,7 +42,7 @@ TEST_F(DiaryServerTest, HandedOverFilesGoIntoTheStoreAndOtherWorkStaysWhereItIs)
         HandOver(name, std::string(name) + " bytes\r\n");
     WriteBytes(Mary("D200407.dat_NET"), "no .OK yet\r\n");
     WriteBytes(Mary("D200408.dat_NET.OK"), "a lost file\r\n");
-    for (const char* name : {"ADD.TXT", "message.txt", "_4CLIENT.ADD"}) HandOver(name, "to be routed\r\n");
+    for (const char* name : {"ADD.TXT", "_4CLIENT.ADD"}) HandOver(name, "to be routed\r\n");
     server_->Poll();
 
     for (const char* name : {"D200406.dat_NET", "D200406.DAT", "D_tasks.dat", "allnotes.dat"})
@@ -50,7 +50,7 @@ TEST_F(DiaryServerTest, HandedOverFilesGoIntoTheStoreAndOtherWorkStaysWhereItIs)
     EXPECT_EQ(ReadBytes(Mary("SERVER.FIN")), "taken over D_tasks.dat\r\n") << "the last one, in the order of names";
     EXPECT_EQ(MaryFiles(),
               (std::vector<std::string>{"ADD.TXT", "ADD.TXT.OK", "D200407.dat_NET", "SERVER.FIN", "USERS.TXT",
-                                        "_4CLIENT.ADD", "_4CLIENT.ADD.OK", "message.txt", "message.txt.OK"}));
+                                        "_4CLIENT.ADD", "_4CLIENT.ADD.OK"}));
     EXPECT_TRUE(ServerLogged("mary\\D200408.dat_NET.OK stands without its file - removed"));
 }
 
