@@ -6,6 +6,7 @@
 #include "foundation/DateHelpers.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
+#include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
 #include "network/ServerWork.h"
@@ -19,6 +20,17 @@ namespace orbidex {
 namespace sf = serverfolder;
 
 namespace {
+
+// A day of the diary's years written as yyyymmdd: a broken date would put the event
+// into some month where no view ever shows it.
+bool isDiaryDay(const std::string& yyyymmdd) {
+    const VbDate date = DateFromYYYYMMDD(yyyymmdd);
+    return IsDiaryDate(date) && FormatDate(date, "yyyymmdd") == yyyymmdd;
+}
+
+void notAdded(const std::string& what, const cDiaryRecord& record) {
+    glbLog.log(what + " for a day that does not exist is not taken: " + record.DateEvent + " " + record.details, 0);
+}
 
 cDiaryRecord recordOf(const std::string& line) {
     cDiaryRecord record;
@@ -49,7 +61,9 @@ void meetingCancelled(const ChangeRecord& change, const cDiaryRecord& old) {
     glbDiaryComms.DeleteEventFromAnywhere(old);
 }
 
+// A change to a day that does not exist leaves the meeting where it is.
 void meetingChanged(const ChangeRecord& change, const cDiaryRecord& old, cDiaryRecord changed) {
+    if (!isDiaryDay(changed.DateEvent)) return notAdded("A changed meeting", changed);
     const std::string text = change.user + " has changed the meeting :\r\n\r\n" + old.details + "\r\n\r\nfrom " +
                              old.DateEvent + " at " + old.TimeEvent + " to " + changed.DateEvent + " at " +
                              changed.TimeEvent + "\r\n\r\n";
@@ -64,6 +78,7 @@ void meetingChanged(const ChangeRecord& change, const cDiaryRecord& old, cDiaryR
 
 void cDiaryComms::AddEventFromRemoteUser(const std::string& line) {
     cDiaryRecord record = recordOf(line);
+    if (!isDiaryDay(record.DateEvent)) return notAdded("A meeting", record);
     const std::string file = addToItsMonth(record);
     // The booker is the partner of the answer.
     CreateMessageLogEntry(record.ContactID, "EV", "added event to your database :" + record.details);
