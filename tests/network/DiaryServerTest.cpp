@@ -120,3 +120,40 @@ TEST_F(DiaryServerTest, TheUserListFollowsTheLogOnsAndSurvivesARestart) {
     restarted.Poll();
     EXPECT_EQ(ReadBytes(UserFolder("ann") + "USERS.TXT"), "ann,Offline\r\nfred,Offline\r\nmary,Offline\r\n");
 }
+
+TEST_F(DiaryServerTest, MessagesAndChangedMeetingsGoToTheUsersTheyNameOneFileAtATime) {
+    MakeFolder(UserFolder("ann"));
+    auto send = [this](const std::string& from, const std::string& to, const std::string& text) {
+        WriteBytes(UserFolder(from) + "message.txt", to + " , \r\n20040605 09:30:12\r\n" + text + "\r\n");
+        WriteBytes(UserFolder(from) + "message.txt.OK", "Finished writing request to server\r\n");
+    };
+    const std::string meeting = test::Fields({"D200406100001", "20040610", "Meeting", "1400", "60",
+                                              "Meeting request for ann, mary, nobody, ", "fred", "", "", "", "", "",
+                                              "", "", "Budget meeting"});
+    const std::string change = "OLD " + meeting + "\r\nNEW " + meeting + "\r\n";
+    HandOver("_CHANGE_REQUEST.TXT", "a broken line\r\n; 20040605 09:31:00 by PC User mary\r\n" + change);
+    // Two clients write to mary in the same pass; mary's own list names her too.
+    send("fred", "mary, ann, nobody, ", "Lunch at one?");
+    send("ann", "mary, ", "Coming too");
+    server_->Poll();
+
+    const std::string fromFred = "20040605 09:30:12\r\nfred\r\nLunch at one?\r\n";
+    EXPECT_EQ(ReadBytes(Mary("_4CLIENT.MESSAGE")), "20040605 09:30:12\r\nann\r\nComing too\r\n" + fromFred);
+    EXPECT_EQ(ReadBytes(Mary("_4CLIENT.MESSAGE.OK")), "for mary\r\n");
+    EXPECT_EQ(ReadBytes(UserFolder("ann") + "_4CLIENT.MESSAGE"), fromFred);
+    // The change goes to those it was booked for and to its booker, the changer named
+    // in place of the PC user; the changer has it already.
+    for (const char* user : {"ann", "fred"})
+        EXPECT_EQ(ReadBytes(UserFolder(user) + "_4CLIENT.CHANGE"), "; 20040605 09:31:00 mary\r\n" + change) << user;
+    EXPECT_FALSE(FileExists(Mary("_4CLIENT.CHANGE")));
+    for (const char* user : {"fred", "ann"}) EXPECT_FALSE(FileExists(UserFolder(user) + "message.txt")) << user;
+    EXPECT_TRUE(ServerLogged("_4CLIENT.MESSAGE for nobody, who has no folder - dropped"));
+
+    // A message that comes while mary's file stands waits until her client took it.
+    send("fred", "mary", "Room 2");
+    server_->Poll();
+    EXPECT_EQ(ReadBytes(Mary("_4CLIENT.MESSAGE")), "20040605 09:30:12\r\nann\r\nComing too\r\n" + fromFred);
+    DeleteFile(Mary("_4CLIENT.MESSAGE"));
+    server_->Poll();
+    EXPECT_EQ(ReadBytes(Mary("_4CLIENT.MESSAGE")), "20040605 09:30:12\r\nfred\r\nRoom 2\r\n");
+}
