@@ -1,5 +1,7 @@
 #include "network/cMessages.h"
 
+#include <algorithm>
+
 #include "controls/ListView.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -47,7 +49,8 @@ void cMessages::DisplayMessages(const std::string& file, ListView& list, int fil
     glbMessageWaiting = false;
     list.ListItems.Clear();
     list.ColumnHeaders.Clear();
-    list.ColumnHeaders.Add("Messages - " + FormatDate(date, "DDD, d-MMM-yy"), list.Width);
+    // As wide as the list inside its border, so that no scroll bar is needed.
+    list.ColumnHeaders.Add("Messages - " + FormatDate(date, "DDD, d-MMM-yy"), std::max(0L, list.Width - 120));
     list.Sorted = false;
 
     const std::string me = UCase(glbComms.GetMyUserName());

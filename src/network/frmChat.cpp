@@ -18,6 +18,7 @@ std::unique_ptr<frmChat> gChatForm;
 
 constexpr long kMargin = 120;
 constexpr long kLabelHeight = 255;
+constexpr long kToWidth = 375;
 constexpr long kTalkHeight = 735;
 constexpr long kButtonWidth = 1215;
 constexpr long kButtonHeight = 375;
@@ -39,6 +40,8 @@ void frmChat::placeControls() {
     txtTalk.MultiLine = true;
     txtTalk.FontName = "Arial";
     txtTalk.FontSize = 10;
+    lblTo.Caption = "To:";
+    lblUsers.FontBold = true;
     cmdCancel.Caption = "&Close";
     cmdCancel.Cancel = true;
     ScaleWidth = 6360;
@@ -59,7 +62,8 @@ void frmChat::Form_Load() {
 void frmChat::Form_Resize() {
     const long width = std::max(1500L, static_cast<long>(ScaleWidth) - 2 * kMargin);
     const long height = std::max(3000L, static_cast<long>(ScaleHeight));
-    lblUsers.Move(kMargin, kMargin, width, kLabelHeight);
+    lblTo.Move(kMargin, kMargin, kToWidth, kLabelHeight);
+    lblUsers.Move(kMargin + kToWidth, kMargin, width - kToWidth, kLabelHeight);
     const long buttonTop = height - kMargin - kButtonHeight;
     const long talkTop = buttonTop - kMargin - kTalkHeight;
     const long chatTop = kMargin + kLabelHeight + kMargin / 2;

@@ -24,6 +24,7 @@ public:
     void txtTalk_Change();
     void cmdCancel_Click();
 
+    Label lblTo{this, "lblTo"};
     Label lblUsers{this, "lblUsers"};      ///< the users written to, as a user list
     RichTextBox rtbChat{this, "rtbChat"};  ///< the conversation
     TextBox txtTalk{this, "txtTalk"};      ///< the line being written
