@@ -87,7 +87,7 @@ public:
 
 private:
     bool pollFrequently_ = false;
-    bool polling_ = false;        ///< a poll is under way: one inside it would do the work twice
+    bool polling_ = false;       ///< a poll is under way: one inside it would do the work twice
     std::string localDataPath_;  ///< the local folder handed to InitClient
 };
 

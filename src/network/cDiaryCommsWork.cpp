@@ -9,10 +9,10 @@
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
+#include "network/ServerFolder.h"
 #include "network/ServerWork.h"
 #include "network/cComms.h"
 #include "network/cDiaryComms.h"
-#include "network/ServerFolder.h"
 #include "platform/Platform.h"
 
 namespace orbidex {

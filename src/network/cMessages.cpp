@@ -74,11 +74,16 @@ void cMessages::DisplayMessages(const std::string& file, ListView& list, int fil
 
 bool cMessages::IsMessageInDateRange(const std::string& line, int filterMode, VbDate date) const {
     switch (filterMode) {
-        case 0: return true;
-        case 1: return Left(line, 8) == FormatDate(date, "yyyymmdd");
-        case 2: return Mid(line, 5, 2) == FormatDate(date, "mm");
-        case 3: return Left(line, 4) == FormatDate(date, "yyyy");
-        default: return false;
+        case 0:
+            return true;
+        case 1:
+            return Left(line, 8) == FormatDate(date, "yyyymmdd");
+        case 2:
+            return Mid(line, 5, 2) == FormatDate(date, "mm");
+        case 3:
+            return Left(line, 4) == FormatDate(date, "yyyy");
+        default:
+            return false;
     }
 }
 
@@ -121,8 +126,7 @@ void cMessages::ShowMessageFromList(const ListItem& item) {
         return;
     }
     message += "\r\nDo you want to reply to this message?";
-    if (platform().MsgBox(message, vbYesNo, "Message Details - Reply ?") == vbYes)
-        EnterChatMode(MainForm(), partner);
+    if (platform().MsgBox(message, vbYesNo, "Message Details - Reply ?") == vbYes) EnterChatMode(MainForm(), partner);
 }
 
 void cMessages::splitTag(const std::string& tag, std::string fields[4]) {

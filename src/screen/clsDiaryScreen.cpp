@@ -234,9 +234,8 @@ void clsDiaryScreen::setUpMessages() {
     // The list of the calendar's date takes the whole width of the main area.
     resize();
     glbMessages.DisplayMessages(glbMessages.fname(), form.lvCat, 1);
-    const long shown = form.lvCat.ListItems.Count() == 1 && form.lvCat.ListItems(1).Key() == "NULL"
-                           ? 0
-                           : form.lvCat.ListItems.Count();
+    const long shown =
+        form.lvCat.ListItems.Count() == 1 && form.lvCat.ListItems(1).Key() == "NULL" ? 0 : form.lvCat.ListItems.Count();
     form.status.Panels(1).Text = CStr(shown) + " Messages";
 }
 

@@ -109,8 +109,7 @@ protected:
         std::ofstream script(run.Folder() + "/driver.txt", std::ios::app);
         for (const std::string& command : commands) script << command << "\n";
         script.close();
-        const std::string count =
-            std::to_string(commandsSent_[run.Folder()] += static_cast<int>(commands.size()));
+        const std::string count = std::to_string(commandsSent_[run.Folder()] += static_cast<int>(commands.size()));
         ASSERT_TRUE(run.WaitForFile("driver.log", [&](const std::string& done) { return done == count; }));
     }
     /// Adds an event as a user does: the Add entry, the details, OK.

@@ -48,9 +48,8 @@ TEST_F(DiaryServerTest, HandedOverFilesGoIntoTheStoreAndOtherWorkStaysWhereItIs)
     for (const char* name : {"D200406.dat_NET", "D200406.DAT", "D_tasks.dat", "allnotes.dat"})
         EXPECT_EQ(ReadBytes(StoreFolder("mary") + name), std::string(name) + " bytes\r\n") << name;
     EXPECT_EQ(ReadBytes(Mary("SERVER.FIN")), "taken over D_tasks.dat\r\n") << "the last one, in the order of names";
-    EXPECT_EQ(MaryFiles(),
-              (std::vector<std::string>{"ADD.TXT", "ADD.TXT.OK", "D200407.dat_NET", "SERVER.FIN", "USERS.TXT",
-                                        "_4CLIENT.ADD", "_4CLIENT.ADD.OK"}));
+    EXPECT_EQ(MaryFiles(), (std::vector<std::string>{"ADD.TXT", "ADD.TXT.OK", "D200407.dat_NET", "SERVER.FIN",
+                                                     "USERS.TXT", "_4CLIENT.ADD", "_4CLIENT.ADD.OK"}));
     EXPECT_TRUE(ServerLogged("mary\\D200408.dat_NET.OK stands without its file - removed"));
 }
 
@@ -127,9 +126,9 @@ TEST_F(DiaryServerTest, MessagesAndChangedMeetingsGoToTheUsersTheyNameOneFileAtA
         WriteBytes(UserFolder(from) + "message.txt", to + " , \r\n20040605 09:30:12\r\n" + text + "\r\n");
         WriteBytes(UserFolder(from) + "message.txt.OK", "Finished writing request to server\r\n");
     };
-    const std::string meeting = test::Fields({"D200406100001", "20040610", "Meeting", "1400", "60",
-                                              "Meeting request for ann, mary, nobody, ", "fred", "", "", "", "", "",
-                                              "", "", "Budget meeting"});
+    const std::string meeting =
+        test::Fields({"D200406100001", "20040610", "Meeting", "1400", "60", "Meeting request for ann, mary, nobody, ",
+                      "fred", "", "", "", "", "", "", "", "Budget meeting"});
     const std::string change = "OLD " + meeting + "\r\nNEW " + meeting + "\r\n";
     HandOver("_CHANGE_REQUEST.TXT", "a broken line\r\n; 20040605 09:31:00 by PC User mary\r\n" + change);
     // Two clients write to mary in the same pass; mary's own list names her too.

@@ -95,8 +95,9 @@ TEST_F(HandOverTest, WithTheServerAwayTheChangeListWaitsForAHandOverThatWaited) 
     EXPECT_FALSE(FileExists(UserFolder("fred") + "D200406.dat_NET"));
 
     const std::string changes = DataPath() + "_CHANGE_REQUEST.TXT";
-    const std::string lunch = Fields({"D200406050001", "20040605", "Meeting", "1200", "30", "Meeting request for mary, ",
-                                      "fred", "", "", "", "", "", "", "", "Lunch with Ann"});
+    const std::string lunch =
+        Fields({"D200406050001", "20040605", "Meeting", "1200", "30", "Meeting request for mary, ", "fred", "", "", "",
+                "", "", "", "", "Lunch with Ann"});
     const std::string change = "; 20040605 09:30:12 by PC User fred\r\nOLD " + lunch + "\r\nNEW " + lunch + "\r\n";
     WriteBytes(changes, change);
     ServerUp(true);

@@ -56,10 +56,14 @@ TEST_F(MessagesTest, TheListShowsTheDaysMessagesButNotTheReceipts) {
     EXPECT_EQ(List().ListItems(1).Tag(), "20040605 09:00:00;RX;mary;Lunch at one?");
 
     const std::string line = "20040605 09:00:00;RX;mary;x";
-    for (auto [filter, date, shown] : {std::tuple{0, DateSerial(1999, 1, 1), true}, {1, DateSerial(2004, 6, 5), true},
-                                       {1, DateSerial(2004, 6, 6), false}, {2, DateSerial(2003, 6, 1), true},
-                                       {2, DateSerial(2004, 7, 5), false}, {3, DateSerial(2004, 1, 1), true},
-                                       {3, DateSerial(2005, 6, 5), false}, {4, DateSerial(2004, 6, 5), false}})
+    for (auto [filter, date, shown] : {std::tuple{0, DateSerial(1999, 1, 1), true},
+                                       {1, DateSerial(2004, 6, 5), true},
+                                       {1, DateSerial(2004, 6, 6), false},
+                                       {2, DateSerial(2003, 6, 1), true},
+                                       {2, DateSerial(2004, 7, 5), false},
+                                       {3, DateSerial(2004, 1, 1), true},
+                                       {3, DateSerial(2005, 6, 5), false},
+                                       {4, DateSerial(2004, 6, 5), false}})
         EXPECT_EQ(glbMessages.IsMessageInDateRange(line, filter, date), shown) << filter << " " << date;
 
     MainForm().MonthView1.Value = DateSerial(2004, 6, 6);
@@ -95,8 +99,7 @@ TEST_F(MessagesTest, AMessageOpensFromTheListAndAReceivedOneCanBeAnswered) {
     EXPECT_EQ(ChatForm().txtTalk.Text(), "");
     const std::string chat = ChatForm().rtbChat.Text;
     EXPECT_EQ(chat.substr(0, 16), "Send a Message\r\n");
-    EXPECT_TRUE(EndsWith(chat, "logon\r\n\r\n" + sentAt + " fred: See you  there"))
-        << chat;
+    EXPECT_TRUE(EndsWith(chat, "logon\r\n\r\n" + sentAt + " fred: See you  there")) << chat;
     EXPECT_EQ(ChatForm().rtbChat.Runs().back().format.color, vbBlue);
     EXPECT_TRUE(EndsWith(ReadBytes(UserFolder("fred") + "message.txt"), "\r\nSee you  there\r\n"));
     ChatForm().cmdCancel_Click();

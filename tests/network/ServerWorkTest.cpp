@@ -14,8 +14,8 @@
 #include "foundation/VbString.h"
 #include "network/cComms.h"
 #include "network/cDiaryComms.h"
-#include "network/frmChat.h"
 #include "network/cMessages.h"
+#include "network/frmChat.h"
 #include "screen/frmClientDiaryMain.h"
 #include "screen/frmStickyNote.h"
 
@@ -182,8 +182,7 @@ TEST_F(ServerWorkTest, AMessageAndItsAnswerStandInBothLogsInOrder) {
     EXPECT_EQ(ChatForm().rtbChat.Runs().back().format.color, vbRed);
     EXPECT_EQ(platform_.BeepCount(), 9) << "three rings in the chat";
 
-    EXPECT_EQ(Messages("fred"),
-              (std::vector<std::string>{"TX;mary, ;Lunch at one?", "RX;mary;Yes, see you there"}));
+    EXPECT_EQ(Messages("fred"), (std::vector<std::string>{"TX;mary, ;Lunch at one?", "RX;mary;Yes, see you there"}));
     EXPECT_EQ(Messages("mary"), (std::vector<std::string>{"RX;fred;Lunch at one?", "TX;fred;Yes, see you there"}));
 }
 
@@ -200,8 +199,8 @@ TEST_F(ServerWorkTest, BrokenWorkFromTheServerNeverCostsALocalEvent) {
         std::string june;  ///< mary's June afterwards
     } cases[] = {
         {"a record cut short", "_4CLIENT.CHANGE", "; 20040605 09:30:12 fred\r\nOLD " + dentist + "\r\n", kMarysOwn},
-        {"a record with an empty line", "_4CLIENT.CHANGE",
-         "; 20040605 09:30:12 fred\r\n\r\nNEW " + dentist + "\r\n", kMarysOwn},
+        {"a record with an empty line", "_4CLIENT.CHANGE", "; 20040605 09:30:12 fred\r\n\r\nNEW " + dentist + "\r\n",
+         kMarysOwn},
         {"foreign bytes", "_4CLIENT.CHANGE", "\xFF\x01\x1F\r\n\x1F\x1F\x1F\r\nNEW \xFE\r\n", kMarysOwn},
         {"a change to a day that does not exist", "_4CLIENT.CHANGE", toNoDay, kMarysOwn},
         {"an event with no date", "_4CLIENT.ADD", "only one field\r\n", kMarysOwn},
