@@ -29,6 +29,11 @@ std::string AsUserList(const std::string& names) {
     return list;
 }
 
+void DeleteServerFile(const std::string& file) {
+    DeleteFile(file);
+    DeleteFile(file + std::string(sf::kOK));
+}
+
 std::string networkFile(std::string_view name) {
     return AddFileToPath(glbClientsNetworkDatapath, std::string(name));
 }

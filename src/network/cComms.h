@@ -95,6 +95,9 @@ extern cComms glbComms;
 
 /// Names typed with commas between them as a user list: each name followed by ", ".
 std::string AsUserList(const std::string& names);
+/// Deletes a file the server left in the network folder, and its ".OK"; failures
+/// are of no matter.
+void DeleteServerFile(const std::string& file);
 /// A file in the user's network folder (which gets its trailing "\" on the way).
 std::string networkFile(std::string_view name);
 /// The one wait of an exchange: until `file` can be opened for reading or `seconds`

@@ -77,8 +77,7 @@ bool cComms::GetEventAddedByAnotherUser(const std::string& name) {
     for (const std::string& line : SplitLines(bytes))
         if (!line.empty()) glbDiaryComms.AddEventFromRemoteUser(line);
     // Also a file that could not be read goes: the server is not asked again.
-    DeleteFile(file);
-    DeleteFile(file + std::string(sf::kOK));
+    DeleteServerFile(file);
     return read;
 }
 

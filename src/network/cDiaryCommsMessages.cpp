@@ -7,7 +7,6 @@
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
-#include "network/ServerFolder.h"
 #include "network/ServerWork.h"
 #include "network/cComms.h"
 #include "network/cDiaryComms.h"
@@ -16,8 +15,6 @@
 #include "screen/frmStickyNote.h"
 
 namespace orbidex {
-
-namespace sf = serverfolder;
 
 namespace {
 
@@ -59,8 +56,7 @@ bool cDiaryComms::RecieveMessage(const std::string& name) {
         CreateMessageLogEntry(message.sender, "RX", message.text);
         ringThreeTimes();
     }
-    DeleteFile(file);
-    DeleteFile(file + std::string(sf::kOK));
+    DeleteServerFile(file);
     if (!popup.empty() && glbConfig.ShowPopupMessages != 0) ShowPopupMessage(popup, "New Message");
     return read;
 }

@@ -9,15 +9,12 @@
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
-#include "network/ServerFolder.h"
 #include "network/ServerWork.h"
 #include "network/cComms.h"
 #include "network/cDiaryComms.h"
 #include "platform/Platform.h"
 
 namespace orbidex {
-
-namespace sf = serverfolder;
 
 namespace {
 
@@ -100,8 +97,7 @@ bool cDiaryComms::EventChangedByAnotherUser(const std::string& name) {
         else
             meetingChanged(change, old, changed);
     }
-    DeleteFile(file);
-    DeleteFile(file + std::string(sf::kOK));
+    DeleteServerFile(file);
     return read;
 }
 
