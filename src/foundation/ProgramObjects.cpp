@@ -9,6 +9,9 @@
 #include "pim/cNotes.h"
 #include "pim/cTasks.h"
 #include "network/cDiaryComms.h"
+#include "network/cMessages.h"
+#include "network/frmChat.h"
+#include "screen/frmStickyNote.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
@@ -35,6 +38,9 @@ void ResetProgramObjects() {
     gNoteHeadings = cNote();
     gListAndDetails = ListAndDetailsDefinition();
     ResetMainForm();
+    glbMessages = cMessages();
+    ResetChatForm();
+    ResetStickyNote();
 }
 
 }  // namespace orbidex

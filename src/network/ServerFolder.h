@@ -24,6 +24,12 @@ inline constexpr std::string_view kCommonReferences = "common_references.txt";
 inline constexpr std::string_view kChangeRequest = "_CHANGE_REQUEST.TXT";
 inline constexpr std::string_view kAdd = "ADD.TXT";
 inline constexpr std::string_view kMessage = "message.txt";
+inline constexpr std::string_view kMessageOK = "message.txt.OK";
+/// The work the server leaves for a client: changed or cancelled meetings, meetings
+/// others booked, messages.
+inline constexpr std::string_view kClientChange = "_4CLIENT.CHANGE";
+inline constexpr std::string_view kClientAdd = "_4CLIENT.ADD";
+inline constexpr std::string_view kClientMessage = "_4CLIENT.MESSAGE";
 
 /// The network form of a monthly file carries this behind the file's name.
 inline constexpr std::string_view kNetworkForm = "_NET";

@@ -22,6 +22,18 @@ namespace sf = serverfolder;
 
 cComms glbComms;
 
+std::string AsUserList(const std::string& names) {
+    std::string list;
+    for (const std::string& name : Split(names, ","))
+        if (!Trim(name).empty()) list += Trim(name) + ", ";
+    return list;
+}
+
+void DeleteServerFile(const std::string& file) {
+    DeleteFile(file);
+    DeleteFile(file + std::string(sf::kOK));
+}
+
 std::string networkFile(std::string_view name) {
     return AddFileToPath(glbClientsNetworkDatapath, std::string(name));
 }
@@ -148,7 +160,7 @@ std::string cComms::MakeRandomDiaryRecordAsText(double date) {
     return record.FormatAsText(kFieldDelimiter, true);
 }
 
-// The user lists, meetings and messages are not in this version yet.
+// The user lists and meetings are not in this version yet.
 std::string cComms::GetTickedListOfUsers(ListView&) {
     return "";
 }
@@ -160,12 +172,6 @@ std::string cComms::GetTickedUsers(ListView&) {
 }
 void cComms::ListUsers(Control&, bool) {}
 void cComms::ParseUserItemToList(Control&, const std::string&, bool) {}
-void cComms::TransmitText(const std::string&, const std::string&) {}
 void cComms::MakeMeetingBooking(const cDiaryRecord&, const std::string&) {}
-void cComms::GetEventAddedByAnotherUser(const std::string&) {}
-
-bool cComms::CheckForServerRequests() {
-    return false;
-}
 
 }  // namespace orbidex

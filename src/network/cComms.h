@@ -52,11 +52,13 @@ public:
     void SaveFileToMyNetworkDatapathForServer(const std::string& file, bool noWait);
     /// Does nothing but log that it does nothing; gives "".
     std::string WaitAndGetServerFile(const std::string& folder, const std::string& file);
-    /// Looks for work the server left in the folder; true when something arrived.
-    /// This version receives nothing yet: false.
+    /// Looks for the work the server left in the folder (changed and cancelled
+    /// meetings, meetings booked by others, messages) and does it; without a message
+    /// it tells the server that the client lives.  True when something arrived.
     bool CheckForServerRequests();
-    /// Adds the events of a file the server routed here.  Not in this version yet.
-    void GetEventAddedByAnotherUser(const std::string& name);
+    /// Adds each event of the file `name` (a bare name in the network folder) to its
+    /// month, then deletes the file and its ".OK".  False when it could not be read.
+    bool GetEventAddedByAnotherUser(const std::string& name);
     /// Hands the local change list over, unless a hand-over is under way; true when
     /// one went.
     bool UpdateServerWithChangedFiles(const std::string& folder);
@@ -72,22 +74,30 @@ public:
     /// followed by CR LF, or "".
     std::string WaitForServerData(const std::string& folder, const std::string& file, int seconds);
 
-    // The user lists, meetings and messages; not in this version yet.
+    // The user lists and meetings; not in this version yet.
     std::string GetTickedListOfUsers(ListView& list);
     std::string GetSelectedUsers(Control& list, bool includeMe);
     std::string GetTickedUsers(ListView& list);
     void ListUsers(Control& list, bool showStatus);
     void ParseUserItemToList(Control& list, const std::string& line, bool showStatus);
+    /// Writes one message for `users` (a user list) into message.txt, logs it as
+    /// sent and publishes it.  It neither waits nor reports a failure.
     void TransmitText(const std::string& users, const std::string& text);
     void MakeMeetingBooking(const cDiaryRecord& record, const std::string& users);
 
 private:
     bool pollFrequently_ = false;
+    bool polling_ = false;       ///< a poll is under way: one inside it would do the work twice
     std::string localDataPath_;  ///< the local folder handed to InitClient
 };
 
 extern cComms glbComms;
 
+/// Names typed with commas between them as a user list: each name followed by ", ".
+std::string AsUserList(const std::string& names);
+/// Deletes a file the server left in the network folder, and its ".OK"; failures
+/// are of no matter.
+void DeleteServerFile(const std::string& file);
 /// A file in the user's network folder (which gets its trailing "\" on the way).
 std::string networkFile(std::string_view name);
 /// The one wait of an exchange: until `file` can be opened for reading or `seconds`

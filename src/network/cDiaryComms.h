@@ -1,10 +1,13 @@
 #pragma once
 // The diary's operations over the server folder: the ping with its copies of the
-// shared word lists, and the local folder the session works beside.
+// shared word lists, the local folder the session works beside, and what the work
+// that others sent does to the local diary and the message log.
 
 #include <string>
 
 namespace orbidex {
+
+class cDiaryRecord;
 
 class cDiaryComms {
 public:
@@ -16,8 +19,37 @@ public:
     std::string GetLocalDataPath();
     /// Kept for the interface: false.
     bool CheckLocalResultsFileFirst() { return false; }
+
+    // Work from other users
+    /// One line of _4CLIENT.ADD: the event goes into its month's file under a new
+    /// identifier, is noted in the message log, answered with "RECEIVED:" to its
+    /// booker, and the month is handed back to the server.
+    void AddEventFromRemoteUser(const std::string& line);
+    /// Each record of the file `name` (a bare name in the network folder) cancels or
+    /// changes a meeting, tells the user and answers the partner; then the file and
+    /// its ".OK" are deleted.  False when it could not be read.
+    bool EventChangedByAnotherUser(const std::string& name);
+    /// Takes every event of the same date, time and details out of its month's file
+    /// (kept before as ".BAK"), noting each in deleted_events.txt.
+    void DeleteEventFromAnywhere(const cDiaryRecord& record);
+
+    // Messages
+    /// Each message of the file `name` goes to the chat window, or rings and waits
+    /// for the user; all go into the message log.  Then the file and its ".OK" are
+    /// deleted.  False when it could not be read.
+    bool RecieveMessage(const std::string& name);
+    /// One line of messages.log: "yyyymmdd hh:mm:ss;type;user;text".  Nothing when
+    /// user and text are both blank; line ends in the text become blanks, so that an
+    /// entry stays one line.
+    void CreateMessageLogEntry(const std::string& user, const std::string& type, const std::string& text);
+    /// The message log in the local folder.
+    std::string MessageLogFile();
 };
 
 extern cDiaryComms glbDiaryComms;
+
+/// Shows `text` in the note window without waiting, titled title + " : " + the
+/// user's name.
+void ShowPopupMessage(const std::string& text, const std::string& title);
 
 }  // namespace orbidex

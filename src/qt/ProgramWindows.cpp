@@ -15,6 +15,10 @@ void RegisterProgramWindows(QtFormRegistry& registry) {
     for (const char* dialog : {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator",
                                "frmEditTask", "frmEditNote", "frmTemplateEdit"})
         registry.Register(dialog, [](Form& form) { return new FormWindow(form); });
+
+    // The windows shown without waiting: the chat and the note.
+    for (const char* window : {"frmChat", "frmStickyNote"})
+        registry.Register(window, [](Form& form) { return new FormWindow(form); });
 }
 
 }  // namespace orbidex

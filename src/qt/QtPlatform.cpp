@@ -130,6 +130,7 @@ int QtPlatform::MsgBox(const std::string& prompt, int buttons, const std::string
 
 std::string QtPlatform::InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) {
     QInputDialog box(QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("InputBox"));  // the name a driver of the program finds it by
     box.setWindowTitle(titleOr(title));
     box.setLabelText(ToQString(prompt));
     box.setTextValue(ToQString(defaultText));

@@ -39,6 +39,12 @@ public:
     void viewBrowser();
     /// Asks the server whether it is there and shows the answer.
     void serverPing();
+    /// Opens the chat window with the users chosen in the user list, or, when none
+    /// is, with the users the user names.
+    void CommandChat();
+    /// Looks for the work the server left at once, as the timer does each minute, and
+    /// draws the view again when it changed the diary.
+    void serverCheckForWork();
 
     // The mouse on the views
     /// A cell of the grid clicked: its event becomes the current one.

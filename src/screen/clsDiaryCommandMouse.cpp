@@ -6,6 +6,7 @@
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
+#include "network/cMessages.h"
 #include "platform/Platform.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
@@ -131,7 +132,9 @@ void clsDiaryCommand::MouseListDbleClicked(ListView& list) {
             NoteEdit();
         }
     } else if (mode == "MESSAGE") {
-        unavailable("reading a message");
+        // The line that says there are none opens nothing.
+        if (const ListItem* item = list.SelectedItem(); item != nullptr && item->Key != "NULL")
+            glbMessages.ShowMessageFromList(*item);
     } else {
         platform().MsgBox("MouseListDbleClicked not setup for this data type yet", vbOKOnly, "");
     }

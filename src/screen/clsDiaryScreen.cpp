@@ -8,6 +8,7 @@
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
+#include "network/cMessages.h"
 #include "pim/cNotes.h"
 #include "pim/cTasks.h"
 #include "platform/Platform.h"
@@ -232,6 +233,12 @@ void clsDiaryScreen::setUpMessages() {
     form.lvCat.View = lvwReport;
     form.lvCat.ColumnHeaders.Clear();
     for (const char* caption : {"Date", "To", "type", "Details"}) form.lvCat.ColumnHeaders.Add(caption);
+    // The list of the calendar's date takes the whole width of the main area.
+    resize();
+    glbMessages.DisplayMessages(glbMessages.fname(), form.lvCat, 1);
+    const long shown =
+        form.lvCat.ListItems.Count() == 1 && form.lvCat.ListItems(1).Key() == "NULL" ? 0 : form.lvCat.ListItems.Count();
+    form.status.Panels(1).Text = CStr(shown) + " Messages";
 }
 
 void clsDiaryScreen::setUpFiles() {

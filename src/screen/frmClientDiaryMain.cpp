@@ -11,6 +11,7 @@
 #include "diary/cDiaryRecords.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
+#include "network/cMessages.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
 
@@ -202,15 +203,17 @@ void frmClientDiaryMain::lvCat_DblClick() {
 
 void frmClientDiaryMain::lvCat_KeyDown(int& keyCode, int) {
     const std::string& mode = glbScreen.Mode();
-    if (keyCode == vbKeyReturn && (mode == "TASK" || mode == "NOTE" || mode == "CALENDAR")) {
+    if (keyCode == vbKeyReturn && (mode == "TASK" || mode == "NOTE" || mode == "CALENDAR" || mode == "MESSAGE")) {
         keyCode = 0;
         lvCat_DblClick();
-    } else if (keyCode == vbKeyDelete && (mode == "TASK" || mode == "NOTE")) {
+    } else if (keyCode == vbKeyDelete && (mode == "TASK" || mode == "NOTE" || mode == "MESSAGE")) {
         keyCode = 0;
         if (mode == "TASK")
             glbCmd.TaskDelete();
-        else
+        else if (mode == "NOTE")
             glbCmd.NoteDelete();
+        else
+            glbMessages.DeleteMessages();
     }
 }
 

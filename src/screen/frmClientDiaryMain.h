@@ -63,9 +63,10 @@ public:
     /// Sorts the event list by the column, turning the order round at a second click.
     void lvDiary_ColumnClick(ColumnHeader& column);
     void lvCat_ItemClick(ListItem& item);
-    /// Opens the row's task or note, or adds one to an empty list.
+    /// Opens the row's task, note or message, or adds a task or note to an empty list.
     void lvCat_DblClick();
-    /// Enter does what a double click does; Delete deletes the selected task or note.
+    /// Enter does what a double click does; Delete deletes the selected task or note,
+    /// or in the message mode the message log.
     void lvCat_KeyDown(int& keyCode, int shift);
     /// Sorts the list by the column, turning the order round at a second click.
     void lvCat_ColumnClick(ColumnHeader& column);
@@ -160,6 +161,10 @@ public:
     Menu mnuPingServer{this, "mnuPingServer", "Ping Server", &mnuServer};
     Menu mnuServerLoggon{this, "mnuServerLoggon", "Force Logon to Server", &mnuServer};
     Menu mnuServerLogoff{this, "mnuServerLogoff", "Force Logoff from Server", &mnuServer};
+    Menu mnuServerSep1{this, "mnuServerSep1", "-", &mnuServer};
+    Menu mnuServerMessages{this, "mnuServerMessages", "&Messages", &mnuServer};
+    Menu mnuServerChat{this, "mnuServerChat", "Send a &Message...", &mnuServer};
+    Menu mnuServerCheck{this, "mnuServerCheck", "&Check for Messages Now", &mnuServer};
 
     Menu mnuBeta{this, "mnuBeta", "&Beta"};
     Menu mnuBetaServerEnforce{this, "mnuBetaServerEnforce", "Enforce Confirm save from server", &mnuBeta};

@@ -122,6 +122,9 @@ void frmClientDiaryMain::bindMenus() {
     mnuToolsTimesheet.onClick = [] { glbCmd.StartCompanionTool("kestrop.exe"); };
     mnuViewSetup.onClick = [] { glbCmd.ShowOptions(); };
     mnuPingServer.onClick = [] { glbCmd.serverPing(); };
+    mnuServerMessages.onClick = [] { glbScreen.SwitchMode("MESSAGE"); };
+    mnuServerChat.onClick = [] { glbCmd.CommandChat(); };
+    mnuServerCheck.onClick = [] { glbCmd.serverCheckForWork(); };
     mnuServerLoggon.onClick = [] { glbComms.Logon(); };
     mnuServerLogoff.onClick = [] { glbComms.Logoff(); };
 

@@ -1,7 +1,8 @@
 // The real server and two real clients over one share folder, offscreen: both log
 // on, each adds an event that goes to the server, a search for one user's events
 // finds what that user shares, and a server that dies in the middle of a hand-over
-// costs neither client anything.
+// costs neither client anything.  A message written in one client's chat reaches the
+// other at its next poll, and the answer comes back.
 #include <gtest/gtest.h>
 #include <signal.h>
 
@@ -103,12 +104,22 @@ protected:
         ASSERT_TRUE(run.Start());
         ASSERT_TRUE(run.WaitForStartUp());
     }
+    /// Plays the user: each command done before this returns.
+    void Drive(ProgramRun& run, const std::vector<std::string>& commands) {
+        std::ofstream script(run.Folder() + "/driver.txt", std::ios::app);
+        for (const std::string& command : commands) script << command << "\n";
+        script.close();
+        const std::string count = std::to_string(commandsSent_[run.Folder()] += static_cast<int>(commands.size()));
+        ASSERT_TRUE(run.WaitForFile("driver.log", [&](const std::string& done) { return done == count; }));
+    }
     /// Adds an event as a user does: the Add entry, the details, OK.
     void AddEvent(ProgramRun& run, const std::string& details) {
-        std::ofstream(run.Folder() + "/driver.txt", std::ios::app)
-            << "click mnuAppAdd\ntype txtDetails " << details << "\nclick cmdOK\n";
-        const std::string count = std::to_string(commandsSent_[run.Folder()] += 3);
-        ASSERT_TRUE(run.WaitForFile("driver.log", [&](const std::string& done) { return done == count; }));
+        Drive(run, {"click mnuAppAdd", "type txtDetails " + details, "click cmdOK"});
+    }
+    /// Opens the chat with `user` from the Server menu and sends one line.
+    void Chat(ProgramRun& run, const std::string& user, const std::string& line) {
+        Drive(run, {"click mnuServerChat", "type InputBox " + user, "press InputBox Return", "type txtTalk " + line,
+                    "press txtTalk Return"});
     }
     bool Logged(const ProgramRun& run, const std::string& message) const {
         const auto messages = run.LogMessages();
@@ -141,8 +152,9 @@ TEST_F(NetworkRunTest, TwoClientsShareThroughTheServerAndLoseNothingWhenItDies) 
     StartClient(alice, "alice");
     StartClient(bob, "bob");
     const std::string bothOn = "alice,Logged On\r\nbob,Logged On\r\n";
+    // The server writes the lists one after the other.
     ASSERT_TRUE(waitUntil([&] { return SharedFile("alice/USERS.TXT") == bothOn; }));
-    EXPECT_EQ(SharedFile("bob/USERS.TXT"), bothOn);
+    EXPECT_TRUE(waitUntil([&] { return SharedFile("bob/USERS.TXT") == bothOn; })) << SharedFile("bob/USERS.TXT");
 
     // Each hands over the month with the event just added.
     AddEvent(alice, "Team lunch with Bob");
@@ -189,4 +201,26 @@ TEST_F(NetworkRunTest, TwoClientsShareThroughTheServerAndLoseNothingWhenItDies) 
     ASSERT_TRUE(server_.waitForFinished());
     EXPECT_EQ(server_.exitCode(), 0);
     EXPECT_TRUE(contains(SharedFile("orbidex-server.log"), " stopped\r\n"));
+}
+
+TEST_F(NetworkRunTest, AMessageReachesTheOtherClientAtItsNextPollAndTheAnswerComesBack) {
+    StartServer();
+    ProgramRun alice(ORBIDEX_CLIENT_EXE);
+    ProgramRun bob(ORBIDEX_CLIENT_EXE);
+    StartClient(alice, "alice");
+    StartClient(bob, "bob");
+
+    Chat(alice, "bob", "Are you free at two?");
+    ASSERT_TRUE(alice.WaitForFileContaining("data/messages.log", ";TX;bob, ;Are you free at two?\r\n"));
+    ASSERT_TRUE(waitUntil([&] { return contains(SharedFile("bob/_4CLIENT.MESSAGE"), "Are you free at two?"); }));
+    Drive(bob, {"click mnuServerCheck"});
+    ASSERT_TRUE(bob.WaitForFileContaining("data/messages.log", ";RX;alice;Are you free at two?\r\n"));
+
+    Chat(bob, "alice", "Yes, two is fine");
+    ASSERT_TRUE(waitUntil([&] { return contains(SharedFile("alice/_4CLIENT.MESSAGE"), "Yes, two is fine"); }));
+    Drive(alice, {"click mnuServerCheck"});
+    ASSERT_TRUE(alice.WaitForFileContaining("data/messages.log", ";RX;bob;Yes, two is fine\r\n"));
+    EXPECT_TRUE(contains(bob.ReadFile("data/messages.log"), ";TX;alice, ;Yes, two is fine\r\n"));
+    EXPECT_EQ(alice.CloseAndWait(), 0);
+    EXPECT_EQ(bob.CloseAndWait(), 0);
 }

@@ -4,6 +4,7 @@
 // controls, as soon as the control is on screen:
 //   click <name>        a menu entry or a button
 //   type <name> <text>  keys typed into a text box
+//   press <name> <key>  one key ("Return") pressed in a text box
 // Each command done is counted in "driver.log".  The program itself is unchanged.
 #include <QAbstractButton>
 #include <QAction>
@@ -47,12 +48,17 @@ bool perform(const QString& command, QObject* target, const QString& text) {
             return true;
         }
     }
-    if (command == QLatin1String("type")) {
+    if (command == QLatin1String("type") || command == QLatin1String("press")) {
         QWidget* editor = partOf<QTextEdit>(target);
         if (editor == nullptr) editor = partOf<QPlainTextEdit>(target);
         if (editor == nullptr) editor = partOf<QLineEdit>(target);
         if (editor == nullptr) return false;
-        QTest::keyClicks(editor, text);
+        if (command == QLatin1String("type")) {
+            QTest::keyClicks(editor, text);
+        } else {
+            // Later, so that a dialog the key closes returns to its own loop.
+            QTimer::singleShot(0, editor, [editor] { QTest::keyClick(editor, Qt::Key_Return); });
+        }
         return true;
     }
     return false;

@@ -42,15 +42,14 @@ TEST_F(DiaryServerTest, HandedOverFilesGoIntoTheStoreAndOtherWorkStaysWhereItIs)
         HandOver(name, std::string(name) + " bytes\r\n");
     WriteBytes(Mary("D200407.dat_NET"), "no .OK yet\r\n");
     WriteBytes(Mary("D200408.dat_NET.OK"), "a lost file\r\n");
-    for (const char* name : {"ADD.TXT", "message.txt", "_4CLIENT.ADD"}) HandOver(name, "to be routed\r\n");
+    for (const char* name : {"ADD.TXT", "_4CLIENT.ADD"}) HandOver(name, "to be routed\r\n");
     server_->Poll();
 
     for (const char* name : {"D200406.dat_NET", "D200406.DAT", "D_tasks.dat", "allnotes.dat"})
         EXPECT_EQ(ReadBytes(StoreFolder("mary") + name), std::string(name) + " bytes\r\n") << name;
     EXPECT_EQ(ReadBytes(Mary("SERVER.FIN")), "taken over D_tasks.dat\r\n") << "the last one, in the order of names";
-    EXPECT_EQ(MaryFiles(),
-              (std::vector<std::string>{"ADD.TXT", "ADD.TXT.OK", "D200407.dat_NET", "SERVER.FIN", "USERS.TXT",
-                                        "_4CLIENT.ADD", "_4CLIENT.ADD.OK", "message.txt", "message.txt.OK"}));
+    EXPECT_EQ(MaryFiles(), (std::vector<std::string>{"ADD.TXT", "ADD.TXT.OK", "D200407.dat_NET", "SERVER.FIN",
+                                                     "USERS.TXT", "_4CLIENT.ADD", "_4CLIENT.ADD.OK"}));
     EXPECT_TRUE(ServerLogged("mary\\D200408.dat_NET.OK stands without its file - removed"));
 }
 
@@ -119,4 +118,41 @@ TEST_F(DiaryServerTest, TheUserListFollowsTheLogOnsAndSurvivesARestart) {
     WriteBytes(Mary("DEAD.TXT"), "user logged off at 2004-Jun-05 09:31:01\r\n");
     restarted.Poll();
     EXPECT_EQ(ReadBytes(UserFolder("ann") + "USERS.TXT"), "ann,Offline\r\nfred,Offline\r\nmary,Offline\r\n");
+}
+
+TEST_F(DiaryServerTest, MessagesAndChangedMeetingsGoToTheUsersTheyNameOneFileAtATime) {
+    MakeFolder(UserFolder("ann"));
+    auto send = [this](const std::string& from, const std::string& to, const std::string& text) {
+        WriteBytes(UserFolder(from) + "message.txt", to + " , \r\n20040605 09:30:12\r\n" + text + "\r\n");
+        WriteBytes(UserFolder(from) + "message.txt.OK", "Finished writing request to server\r\n");
+    };
+    const std::string meeting =
+        test::Fields({"D200406100001", "20040610", "Meeting", "1400", "60", "Meeting request for ann, mary, nobody, ",
+                      "fred", "", "", "", "", "", "", "", "Budget meeting"});
+    const std::string change = "OLD " + meeting + "\r\nNEW " + meeting + "\r\n";
+    HandOver("_CHANGE_REQUEST.TXT", "a broken line\r\n; 20040605 09:31:00 by PC User mary\r\n" + change);
+    // Two clients write to mary in the same pass; mary's own list names her too.
+    send("fred", "mary, ann, nobody, ", "Lunch at one?");
+    send("ann", "mary, ", "Coming too");
+    server_->Poll();
+
+    const std::string fromFred = "20040605 09:30:12\r\nfred\r\nLunch at one?\r\n";
+    EXPECT_EQ(ReadBytes(Mary("_4CLIENT.MESSAGE")), "20040605 09:30:12\r\nann\r\nComing too\r\n" + fromFred);
+    EXPECT_EQ(ReadBytes(Mary("_4CLIENT.MESSAGE.OK")), "for mary\r\n");
+    EXPECT_EQ(ReadBytes(UserFolder("ann") + "_4CLIENT.MESSAGE"), fromFred);
+    // The change goes to those it was booked for and to its booker, the changer named
+    // in place of the PC user; the changer has it already.
+    for (const char* user : {"ann", "fred"})
+        EXPECT_EQ(ReadBytes(UserFolder(user) + "_4CLIENT.CHANGE"), "; 20040605 09:31:00 mary\r\n" + change) << user;
+    EXPECT_FALSE(FileExists(Mary("_4CLIENT.CHANGE")));
+    for (const char* user : {"fred", "ann"}) EXPECT_FALSE(FileExists(UserFolder(user) + "message.txt")) << user;
+    EXPECT_TRUE(ServerLogged("_4CLIENT.MESSAGE for nobody, who has no folder - dropped"));
+
+    // A message that comes while mary's file stands waits until her client took it.
+    send("fred", "mary", "Room 2");
+    server_->Poll();
+    EXPECT_EQ(ReadBytes(Mary("_4CLIENT.MESSAGE")), "20040605 09:30:12\r\nann\r\nComing too\r\n" + fromFred);
+    DeleteFile(Mary("_4CLIENT.MESSAGE"));
+    server_->Poll();
+    EXPECT_EQ(ReadBytes(Mary("_4CLIENT.MESSAGE")), "20040605 09:30:12\r\nfred\r\nRoom 2\r\n");
 }

@@ -95,7 +95,10 @@ TEST_F(HandOverTest, WithTheServerAwayTheChangeListWaitsForAHandOverThatWaited) 
     EXPECT_FALSE(FileExists(UserFolder("fred") + "D200406.dat_NET"));
 
     const std::string changes = DataPath() + "_CHANGE_REQUEST.TXT";
-    const std::string change = "; 20040605 09:30:12 by PC User fred\r\nOLD " + kLunch + "\r\nNEW " + kLunch + "\r\n";
+    const std::string lunch =
+        Fields({"D200406050001", "20040605", "Meeting", "1200", "30", "Meeting request for mary, ", "fred", "", "", "",
+                "", "", "", "", "Lunch with Ann"});
+    const std::string change = "; 20040605 09:30:12 by PC User fred\r\nOLD " + lunch + "\r\nNEW " + lunch + "\r\n";
     WriteBytes(changes, change);
     ServerUp(true);
     glbComms.PingClient_local();
@@ -113,8 +116,10 @@ TEST_F(HandOverTest, WithTheServerAwayTheChangeListWaitsForAHandOverThatWaited) 
     glbComms.SaveDiaryFileToServer(month_, false);
     EXPECT_TRUE(glbComms.UpdateServerWithChangedFiles(DataPath()));
     server_->Poll();
-    // The second list joins the first in the store: neither is lost.
-    EXPECT_EQ(ReadBytes(StoreFolder("fred") + "_CHANGE_REQUEST.TXT"), change + change);
+    // The second change waits on the server until mary's client has taken the first.
+    const std::string forMary = "; 20040605 09:30:12 fred\r\nOLD " + lunch + "\r\nNEW " + lunch + "\r\n";
+    EXPECT_EQ(ReadBytes(UserFolder("mary") + "_4CLIENT.CHANGE"), forMary);
+    EXPECT_EQ(ReadBytes(StoreFolder("mary") + "_4CLIENT.CHANGE"), forMary);
 }
 
 TEST_F(HandOverTest, AServerFolderThatVanishedMakesTheCopyFailInFrontOfTheUser) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "SearchRequest.h"
+#include "WorkRouting.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/FileSystem.h"
 #include "foundation/VbString.h"
@@ -87,6 +88,7 @@ void DiaryServer::Poll() {
         answerRequest(folder);
         routeWork(folder);
     }
+    deliverWork(users);
     shareUserList(users);
     shareWordLists(users);
 }
@@ -140,12 +142,15 @@ void DiaryServer::takeOverHandedFiles(const UserFolder& folder) {
     }
 }
 
-// Change lists gather in the store until they are routed to the users they name;
-// every other file replaces the copy before it.
+// A change list goes on to the users of the meetings it changes; every other file
+// replaces the copy before it.
 bool DiaryServer::keepInStore(const UserFolder& folder, const std::string& name, const std::string& bytes) {
+    if (EqualsText(name, sf::kChangeRequest)) {
+        routeChangeList(folder.user, bytes);
+        return true;
+    }
     const std::string store = StoreFolder(folder.user);
     MakePathAux(store);
-    if (EqualsText(name, sf::kChangeRequest)) return AppendToFile(store + name, bytes);
     return WriteWholeFile(store + name, bytes);
 }
 
@@ -195,9 +200,63 @@ std::string DiaryServer::searchResults(const std::string& requestText, const std
     return results;
 }
 
-// Meeting bookings (ADD.TXT) and messages (message.txt) are for the users they name;
-// this server does not route them yet, and leaves them waiting in the folder.
-void DiaryServer::routeWork(const UserFolder&) {}
+// A message goes to every user it names, the sender too.  The ".OK" goes before the
+// message is taken: a message the client writes meanwhile is either the one taken,
+// or stands whole with its own ".OK" for the next pass.  Meeting bookings (ADD.TXT)
+// are not routed yet and wait in the folder.
+void DiaryServer::routeWork(const UserFolder& folder) {
+    const std::string confirm = folder.find(sf::kMessageOK);
+    const std::string name = folder.find(sf::kMessage);
+    if (confirm.empty() || name.empty()) return;
+    const std::string taken = StoreFolder(folder.user) + "message.taken";
+    MakePathAux(StoreFolder(folder.user));
+    DeleteFile(folder.path + confirm);
+    std::string text;
+    if (!RenameFile(folder.path + name, taken) || !ReadWholeFile(taken, text)) return;
+    const OutgoingMessage message = ParseMessage(text);
+    if (message.text.empty()) log(folder.user + "\\" + name + " holds no text - dropped");
+    for (const std::string& user : message.users)
+        if (!message.text.empty() && queueFor(user, sf::kClientMessage, MessageFor(message, folder.user)))
+            log("message from " + folder.user + " for " + user);
+    DeleteFile(taken);
+}
+
+void DiaryServer::routeChangeList(const std::string& sender, const std::string& text) {
+    for (const MeetingChange& change : ParseChangeList(text)) {
+        for (const std::string& user : MeetingUsers(change)) {
+            // The user who made the change has it already.
+            if (EqualsText(user, sender) || !queueFor(user, sf::kClientChange, ChangeFor(change, sender))) continue;
+            log("change of a meeting from " + sender + " for " + user);
+        }
+    }
+}
+
+bool DiaryServer::queueFor(const std::string& user, std::string_view name, const std::string& text) {
+    const std::vector<std::string> known = userNames();
+    const auto found = std::find_if(known.begin(), known.end(), [&](const auto& k) { return EqualsText(k, user); });
+    if (found == known.end()) {
+        log(std::string(name) + " for " + user + ", who has no folder - dropped");
+        return false;
+    }
+    const std::string store = StoreFolder(*found);
+    MakePathAux(store);
+    return AppendToFile(store + std::string(name), text);
+}
+
+// A file of work reaches the folder in one step, and only once the client has taken
+// the one before: the client deletes the file it read, and would delete work added
+// to it meanwhile.
+void DiaryServer::deliverWork(const std::vector<std::string>& users) {
+    for (const std::string& user : users) {
+        for (std::string_view name : {sf::kClientChange, sf::kClientAdd, sf::kClientMessage}) {
+            const std::string waiting = StoreFolder(user) + std::string(name);
+            const std::string target = share_ + user + "\\" + std::string(name);
+            if (!FileExists(waiting) || FileExists(target) || !RenameFile(waiting, target)) continue;
+            WriteWholeFile(target + std::string(sf::kOK), "for " + user + "\r\n");
+            log("left " + std::string(name) + " for " + user);
+        }
+    }
+}
 
 void DiaryServer::shareUserList(const std::vector<std::string>& users) {
     UserList present;

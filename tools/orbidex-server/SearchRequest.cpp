@@ -18,7 +18,9 @@ bool hasDateRange(const SearchRequest& request) {
     return isDate(request.dateStart) && isDate(request.dateEnd);
 }
 
-std::vector<std::string> userNames(std::string_view list) {
+}  // namespace
+
+std::vector<std::string> UserNames(std::string_view list) {
     std::vector<std::string> users;
     for (const std::string& part : Split(list, ",")) {
         const std::string name = Trim(part);
@@ -30,8 +32,6 @@ std::vector<std::string> userNames(std::string_view list) {
     return users;
 }
 
-}  // namespace
-
 SearchRequest ParseSearchRequest(std::string_view text) {
     SearchRequest request;
     for (const std::string& line : SplitLines(text)) {
@@ -42,7 +42,7 @@ SearchRequest ParseSearchRequest(std::string_view text) {
         if (EqualsText(key, "detail")) request.detail = value;
         if (EqualsText(key, "dateStart")) request.dateStart = Trim(value);
         if (EqualsText(key, "dateEnd")) request.dateEnd = Trim(value);
-        if (EqualsText(key, "users")) request.users = userNames(value);
+        if (EqualsText(key, "users")) request.users = UserNames(value);
     }
     return request;
 }

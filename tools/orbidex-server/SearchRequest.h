@@ -15,6 +15,10 @@ struct SearchRequest {
     std::vector<std::string> users;  ///< trimmed, without empty or repeated names
 };
 
+/// The names of a user list ("fred, mary, "): trimmed, without empty or repeated
+/// names (compared without regard to case).
+std::vector<std::string> UserNames(std::string_view list);
+
 /// Reads the key=value lines of a request; keys without regard to case, missing
 /// keys empty, every other line ignored.  Never fails.
 SearchRequest ParseSearchRequest(std::string_view text);

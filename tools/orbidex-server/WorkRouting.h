@@ -1,0 +1,42 @@
+#pragma once
+// The work one client leaves for others, as the server reads it and passes it on:
+// a change list (_CHANGE_REQUEST.TXT) goes to the other users of each meeting it
+// changes, a message (message.txt) to the users it names.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orbidex::server {
+
+/// One change of a meeting: the client's header line, "OLD " + the event as it
+/// was, "NEW " + the event as it is.
+struct MeetingChange {
+    std::string header;
+    std::string oldLine;
+    std::string newLine;
+};
+
+/// The changes of a change list.  A change begins at a line that begins with ";"
+/// and is followed by its "OLD " and "NEW " lines; any other line is passed over.
+std::vector<MeetingChange> ParseChangeList(std::string_view text);
+/// The users of the meeting: those it was booked for ("Meeting request for " +
+/// a user list, in the event's action) and its booker (the contact), in the old
+/// and in the new form of the event.
+std::vector<std::string> MeetingUsers(const MeetingChange& change);
+/// The change as the other users' clients read it: the header's first 19
+/// characters (the time) + " " + the user who changed it, then the two events.
+std::string ChangeFor(const MeetingChange& change, const std::string& changedBy);
+
+/// One message: line 1 the users + " , ", line 2 the time, line 3 the text.
+struct OutgoingMessage {
+    std::vector<std::string> users;
+    std::string sent;
+    std::string text;
+};
+
+OutgoingMessage ParseMessage(std::string_view text);
+/// The message as the users' clients read it: the time, the sender, the text.
+std::string MessageFor(const OutgoingMessage& message, const std::string& sender);
+
+}  // namespace orbidex::server
