@@ -69,6 +69,7 @@ void ListSubItem::Reset() {
     Key.setQuietly("");
     Tag.setQuietly("");
     ToolTipText.setQuietly("");
+    ReportIcon.setQuietly("");
 }
 
 ListSubItem& SubItemCollection::Add(const std::string& text, const std::string& key) {

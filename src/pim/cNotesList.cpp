@@ -38,13 +38,19 @@ std::optional<cNote> cNotes::GetFromList(const ListItem* listItem) {
     return FindByID(Left(listItem->Tag(), 13));
 }
 
-void cNotes::Search(ListView& lvResults, const std::string& keyword) {
+void cNotes::Search(ListView& lvResults, const std::string& keyword, bool caseSensitive) {
+    auto holds = [&](const std::string& text) {
+        return (caseSensitive ? InStr(text, keyword) : InStrText(1, text, keyword)) > 0;
+    };
     for (long i = 0; i <= Count(); ++i) {
         const std::string& line = table_.Item(i);
-        if (InStrText(1, line, keyword) == 0) continue;
+        if (Trim(line).empty()) continue;
         cNote note;
         note.CreateNoteFromTextLine(line, kFieldDelimiter);
-        AddToSearchResults(lvResults, note);
+        // The text is read quietly: a note whose file is gone is only not found by it.
+        std::string text;
+        if (holds(line) || (!note.Filename.empty() && ReadWholeFile(note.BodyFile(), text) && holds(text)))
+            AddToSearchResults(lvResults, note);
     }
 }
 

@@ -12,7 +12,8 @@ void RegisterProgramWindows(QtFormRegistry& registry) {
                       [](Form& form) { return new MainWindow(static_cast<frmClientDiaryMain&>(form)); });
 
     // The event dialogs: every control is drawn at its place by the form's window.
-    for (const char* dialog : {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator"})
+    for (const char* dialog : {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator",
+                               "frmInfoSearch", "frmSearchResults"})
         registry.Register(dialog, [](Form& form) { return new FormWindow(form); });
 }
 

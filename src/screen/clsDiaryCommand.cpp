@@ -149,9 +149,6 @@ void clsDiaryCommand::NoteDelete() {
 void clsDiaryCommand::BookMeeting(VbDate, const std::string&) {
     unavailable("booking a meeting");
 }
-void clsDiaryCommand::Search() {
-    unavailable("searching");
-}
 void clsDiaryCommand::ShowOptions() {
     unavailable("the options");
 }

@@ -90,6 +90,10 @@ public:
     /// One of the maker's web pages, in the desktop's browser.
     void OpenMakersPage(MakersPage page);
 
+    /// The search form, then the results of what it asked for; the timer is off
+    /// meanwhile.
+    void Search();
+
     /// A tree node clicked: by its key (or its text) a mode, or a mode and a command.
     void NavigationClicked(const std::string& key, const std::string& text);
     /// A tool bar button, or an entry of its drop-down menu, by its key.
@@ -105,7 +109,6 @@ public:
     void NoteEdit();
     void NoteDelete();
     void BookMeeting(VbDate date, const std::string& time);
-    void Search();
     void ShowOptions();
     void ViewYear();
     void serverRefreshStaffData();

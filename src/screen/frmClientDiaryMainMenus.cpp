@@ -18,7 +18,7 @@ namespace {
 const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
         "mnuFileImport",     "mnuFileExport",        "mnuAppPlanMeeting",      "mnuTaskMenu",      "mnuTaskHeadings",
-        "mnuNotesMenu",      "mnuSearchQuick",       "mnuOptScrapPaper",       "mnuToolsCalendar", "mnuViewSetup",
+        "mnuNotesMenu",      "mnuOptScrapPaper",       "mnuToolsCalendar", "mnuViewSetup",
         "mnuOptionsDisplay", "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuBetaServerEnforce",
         "mnuBetaReindexTask", "mnuBetaTest(0)",      "mnuBetaTest(1)",
         "mnuHelpAbout",
@@ -28,7 +28,7 @@ const std::set<std::string>& entriesWithoutOperation() {
 
 const std::set<std::string>& keysWithoutOperation() {
     static const std::set<std::string> keys = {
-        "Find", "year", "showall", "current", "refresh", "properties", "Task", "Note", "Meeting",
+        "year", "showall", "current", "refresh", "properties", "Task", "Note", "Meeting",
     };
     return keys;
 }

@@ -190,8 +190,15 @@ TEST_F(NotesTest, ANoteFromAFileElsewhereIsItsExactCopyUnderAFreeName) {
     EXPECT_EQ(glbNotes.Count(), 5);
 }
 
-TEST_F(NotesTest, SearchLooksAtTheLinesWithoutRegardToCaseButNotAtTheTexts) {
+TEST_F(NotesTest, SearchLooksAtTheLinesAndTheTextsWithoutRegardToCaseUnlessAsked) {
+    glbNotes.Search(list, "budget", true);  // the text has "Budget"
+    EXPECT_EQ(list.ListItems.Count(), 0);
     glbNotes.Search(list, "budget");  // a word of a text only
+    ASSERT_EQ(list.ListItems.Count(), 1);
+    EXPECT_EQ(list.ListItems(1).SubItems(4), "Meeting notes");
+    list.ListItems.Clear();
+    DeleteFile(Data("notes\\Meeting notes.txt"));  // a lost text is not found, and nothing is said
+    glbNotes.Search(list, "budget");
     EXPECT_EQ(list.ListItems.Count(), 0);
     glbNotes.Search(list, "MEETING");
     ASSERT_EQ(list.ListItems.Count(), 1);
