@@ -37,11 +37,15 @@ bool isTurnForWindow(long row) {
     return row == 10 || row == 50 || row == 100 || row == 200 || row % 300 == 0;
 }
 
-/// "D" + yyyymm + ".dat": a month's file, not the task file, the dump or a note list.
+/// "D" + yyyymm + ".dat" of a month of the diary's years: not the task file, not the
+/// dump D000101.DAT.
 bool isMonthlyFileName(const std::string& name) {
     const std::string upper = UCase(name);
     if (upper.size() != 11 || upper[0] != 'D' || !EndsWith(upper, ".DAT")) return false;
-    return std::all_of(upper.begin() + 1, upper.begin() + 7, [](char c) { return c >= '0' && c <= '9'; });
+    const std::string month = upper.substr(1, 6);
+    if (!std::all_of(month.begin(), month.end(), [](char c) { return c >= '0' && c <= '9'; })) return false;
+    const int year = std::stoi(month.substr(0, 4)), monthOfYear = std::stoi(month.substr(4));
+    return year >= kFirstDiaryYear && monthOfYear >= 1 && monthOfYear <= 12;
 }
 
 /// The lines of `files` that `finder` finds and `keep` accepts.  The window gets a
