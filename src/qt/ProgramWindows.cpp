@@ -1,5 +1,6 @@
 // The Qt window of each form of the program.
 #include "qt/MainWindow.h"
+#include "qt/ProgramIcons.h"
 #include "qt/QtFormRegistry.h"
 #include "qt/views/ControlWidget.h"
 #include "qt/views/FormWindow.h"
@@ -13,8 +14,14 @@ void RegisterProgramWindows(QtFormRegistry& registry) {
 
     // The event dialogs: every control is drawn at its place by the form's window.
     for (const char* dialog : {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator",
-                               "frmInfoSearch", "frmSearchResults"})
+                               "frmInfoSearch"})
         registry.Register(dialog, [](Form& form) { return new FormWindow(form); });
+    // The search results show the kind of each event by the program's icons.
+    registry.Register("frmSearchResults", [](Form& form) {
+        auto* window = new FormWindow(form);
+        UseProgramIcons(*window);
+        return window;
+    });
 }
 
 }  // namespace orbidex

@@ -54,9 +54,10 @@ void cSearch::PerformSearch() {
     list.ColumnHeaders.Add("User", localOnly_ != 0 ? 0 : 1300);  // a local search has one user
     list.ColumnHeaders.Add("Date", 1200);
     list.ColumnHeaders.Add("Time", 660);
-    list.ColumnHeaders.Add("Type", 1270);
+    list.ColumnHeaders.Add("Type", 1500);  // "Event - Private" whole
     list.ColumnHeaders.Add("Details", 3870);
     list.ColumnHeaders.Add("", 0);  // what a row needs beyond the visible
+    form.FitDetailsColumn();
 
     form.Caption = "Searching for " + text;
     platform().SetBusyCursor(true);

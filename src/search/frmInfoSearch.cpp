@@ -18,10 +18,10 @@ constexpr int kPCUsageLogged = 2;
 constexpr int kFileUsageRecorded = 3;
 
 // The height of the window's client area without and with the details, in twips.
-constexpr long kChoicesHeight = 2700;
-constexpr long kDetailsHeight = 5340;
+constexpr long kChoicesHeight = 2760;
+constexpr long kDetailsHeight = 5010;
 // What the window adds around its client area (title bar and frame).
-constexpr long kWindowFrame = 420;
+constexpr long kWindowFrame = 300;
 
 /// The dates of a choice of cmbDateRange, counted from `today`.
 struct DateRange {
@@ -58,18 +58,18 @@ void frmInfoSearch::placeControls() {
         label.Caption = text;
         label.Move(left, top, width, 255);
     };
-    caption(lblDetails, "Look for:", 120, 165, 1080);
-    txtDetails.Move(1260, 120, 4560, 345);
-    caption(lblEventType, "Kind of event:", 120, 645, 1080);
-    cmbEventType.Move(1260, 600, 2760, 315);
+    caption(lblDetails, "Look for:", 120, 165, 1260);
+    txtDetails.Move(1440, 120, 4440, 345);
+    caption(lblEventType, "Kind of event:", 120, 645, 1260);
+    cmbEventType.Move(1440, 600, 2640, 315);
     cmbEventType.Style = vbComboDropdownList;
-    caption(lblDateRange, "When:", 120, 1065, 1080);
-    cmbDateRange.Move(1260, 1020, 2760, 315);
+    caption(lblDateRange, "When:", 120, 1065, 1260);
+    cmbDateRange.Move(1440, 1020, 2640, 315);
     cmbDateRange.Style = vbComboDropdownList;
     chkAnyDate.Caption = "Any Date";
     chkAnyDate.Move(4140, 1035, 1680, 285);
-    caption(lblDate(0), "From:", 120, 1485, 1080);
-    DTPicker1(0).Move(1260, 1440, 2160, 315);
+    caption(lblDate(0), "From:", 120, 1485, 1260);
+    DTPicker1(0).Move(1440, 1440, 2040, 315);
     caption(lblDate(1), "To:", 3540, 1485, 420);
     DTPicker1(1).Move(3960, 1440, 1860, 315);
     for (int i = 0; i < 2; ++i) {
@@ -77,11 +77,11 @@ void frmInfoSearch::placeControls() {
         DTPicker1(i).CustomFormat = "ddd d-MMM-yyyy";
     }
     chkPCUsage.Caption = "Search PC usage";
-    chkPCUsage.Move(1260, 1890, 2160, 285);
+    chkPCUsage.Move(1440, 1890, 2040, 285);
     chkFileUsage.Caption = "Search File usage";
     chkFileUsage.Move(3540, 1890, 2280, 285);
     Check1.Caption = "Cases Sens";
-    Check1.Move(1260, 2250, 2160, 285);
+    Check1.Move(1440, 2250, 2040, 285);
     chkLocalFilesOnly.Caption = "Look in Local Files only";
     chkLocalFilesOnly.Move(3540, 2250, 2280, 285);
 
@@ -98,12 +98,12 @@ void frmInfoSearch::placeControls() {
     chkAllUsers.Move(120, 2760, 2400, 285);
     lvUsers.Move(120, 3090, 2400, 1800);
     lvUsers.Checkboxes = true;
-    lvUsers.ColumnHeaders.Add("User Name", 1200);
-    lblUsers.Move(120, 4980, 7320, 255);
+    lvUsers.ColumnHeaders.Add("User Name", 2340);
+    lblUsers.Move(2640, 2790, 4800, 255);
     lvLocations.Move(2640, 3090, 2340, 1800);
-    lvLocations.ColumnHeaders.Add("Locations", 2040);
+    lvLocations.ColumnHeaders.Add("Locations", 2280);
     lvReferences.Move(5100, 3090, 2340, 1800);
-    lvReferences.ColumnHeaders.Add("References", 2040);
+    lvReferences.ColumnHeaders.Add("References", 2280);
     lvFolders.Visible = false;  // the search does not look into folders
     details_ = {&chkAllUsers, &lvUsers, &lblUsers, &lvLocations, &lvReferences};
     for (ListView* list : {&lvUsers, &lvLocations, &lvReferences}) list->FullRowSelect = true;

@@ -31,6 +31,10 @@ const SaveKind kSaveKinds[] = {{",", "\\search.csv"}, {"\t", "\\search.txt"}, {"
 
 const std::string kHyphens(76, '-');
 
+constexpr long kDetailsColumn = 5;
+constexpr long kDetailsWidth = 3870;
+constexpr long kScrollBarRoom = 360;  ///< the list's vertical scroll bar and borders, in twips
+
 /// True for a real day written "yyyymmdd".
 bool isDayText(const std::string& text) {
     return text.size() == 8 && FormatDate(DateFromYYYYMMDD(text), "yyyymmdd") == text;
@@ -54,7 +58,7 @@ bool isOwnRow(const ListItem& row) {
 
 frmSearchResults::frmSearchResults() : Form("frmSearchResults") {
     Caption = "Search Results";
-    Width = 9120;
+    Width = 10500;
     Height = 5400;
     lvResults.View = lvwReport;
     lvResults.FullRowSelect = true;
@@ -80,6 +84,16 @@ void frmSearchResults::Form_Load() {
 void frmSearchResults::Form_Resize() {
     const long below = status.Visible ? status.Height() : 0;
     lvResults.Move(0, 0, std::max(0L, ScaleWidth()), std::max(0L, ScaleHeight() - below));
+    FitDetailsColumn();
+}
+
+void frmSearchResults::FitDetailsColumn() {
+    ColumnHeader* details = lvResults.ColumnHeaders.Item(kDetailsColumn);
+    if (details == nullptr) return;
+    long others = 0;
+    for (long i = 1; i <= lvResults.ColumnHeaders.Count(); ++i)
+        if (i != kDetailsColumn) others += lvResults.ColumnHeaders(i).Width;
+    details->Width = std::max(kDetailsWidth, lvResults.Width - others - kScrollBarRoom);
 }
 
 void frmSearchResults::lvResults_DblClick() {

@@ -20,6 +20,8 @@ public:
 
     void Form_Load() override;
     void Form_Resize() override;
+    /// Gives the text column the width the other columns leave, at least its own.
+    void FitDetailsColumn();
 
     /// Opens the task, the note or the event behind the selected row.
     void lvResults_DblClick();

@@ -153,7 +153,7 @@ TEST_F(SearchWindowsTest, ALocalSearchListsTasksNotesAndEventsOfEveryYear) {
     std::string columns;
     for (long i = 1; i <= form.lvResults.ColumnHeaders.Count(); ++i)
         columns += form.lvResults.ColumnHeaders(i).Text() + "=" + CStr(form.lvResults.ColumnHeaders(i).Width()) + " ";
-    EXPECT_EQ(columns, "User=0 Date=1200 Time=660 Type=1270 Details=3870 =0 ");
+    EXPECT_EQ(columns, "User=0 Date=1200 Time=660 Type=1500 Details=3870 =0 ");
     EXPECT_FALSE(platform_.BusyCursor());
     EXPECT_FALSE(glbSearching);
 
