@@ -68,7 +68,7 @@ GeneratedDiary GenerateDiary(const std::string& storedDataPath, int firstYear, i
                 const int day = 1 + j * 28 / eventsPerMonth;
                 seq = day == lastDay ? seq + 1 : 1;
                 lastDay = day;
-                const int minutes = 8 * 60 + (seq * 15) % (10 * 60);
+                const int minutes = 8 * 60 + ((seq + 3 * year + month) * 15) % (10 * 60);
                 char date[32], id[48], time[24];
                 std::snprintf(date, sizeof date, "%04d%02d%02d", year, month, day);
                 std::snprintf(id, sizeof id, "D%s%04d", date, seq);
