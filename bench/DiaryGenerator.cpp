@@ -9,9 +9,9 @@ namespace orbidex::bench {
 namespace {
 
 const char* const kDetails[] = {
-    "Call the bank about the loan",  "Review the budget figures",    "Team meeting on the new product",
-    "Lunch with a supplier",         "Write the monthly report",     "Visit the Leeds office",
-    "Plan next quarter's training",  "Check the delivery schedule",  "Interview for the sales post",
+    "Call the bank about the loan", "Review the budget figures",   "Team meeting on the new product",
+    "Lunch with a supplier",        "Write the monthly report",    "Visit the Leeds office",
+    "Plan next quarter's training", "Check the delivery schedule", "Interview for the sales post",
     "Dentist appointment",
 };
 const char* const kReferences[] = {"Phone", "Office", "Client", "Admin", "Sales", "Travel"};
@@ -76,8 +76,8 @@ GeneratedDiary GenerateDiary(const std::string& storedDataPath, int firstYear, i
                 const Fields f = fieldsOf(n);
                 const std::string d = "\x1F";
                 bytes += id + d + date + d + f.reference + d + time + d + pick(kLengths, n / 5) + d + f.action + d +
-                         pick(kContacts, n) + d + f.url + d + d + d + d + pick(kPriorities, n / 11) + d + f.status +
-                         d + pick(kLocations, n / 13) + d + f.details + d + "\r\n";
+                         pick(kContacts, n) + d + f.url + d + d + d + d + pick(kPriorities, n / 11) + d + f.status + d +
+                         pick(kLocations, n / 13) + d + f.details + d + "\r\n";
             }
             char name[32];
             std::snprintf(name, sizeof name, "D%04d%02d.dat", year, month);

@@ -114,8 +114,8 @@ void BM_SearchBesideGrep(benchmark::State& state) {
         const Clock::time_point start = Clock::now();
         std::vector<std::string> files;
         orbidex::glbEvents.CreateDiaryDataFileList(0, 0, files, true);
-        benchmark::DoNotOptimize(orbidex::glbEvents.SearchListOfDiaryFiles(false, files, "29991231", "19840101", term,
-                                                                            found, false, false));
+        benchmark::DoNotOptimize(
+            orbidex::glbEvents.SearchListOfDiaryFiles(false, files, "29991231", "19840101", term, found, false, false));
         searchTime += millisecondsSince(start);
     }
     const double mean = searchTime / static_cast<double>(state.iterations());

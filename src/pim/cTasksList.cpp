@@ -110,7 +110,8 @@ void cTasks::Search(ListView& lvResults, const std::string& keyword, bool caseSe
         const std::string& line = table_.Item(i);
         if (Trim(line).empty()) continue;
         task.CreateTaskFromTextLine(line, kFieldDelimiter);
-        if ((caseSensitive ? InStr(line, keyword) : InStrText(1, line, keyword)) > 0) AddToSearchResults(lvResults, task);
+        if ((caseSensitive ? InStr(line, keyword) : InStrText(1, line, keyword)) > 0)
+            AddToSearchResults(lvResults, task);
     }
 }
 

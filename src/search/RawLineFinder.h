@@ -40,7 +40,9 @@ private:
 };
 
 namespace detail {
-inline bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
+inline bool IsLineEnd(char c) {
+    return c == '\r' || c == '\n';
+}
 }  // namespace detail
 
 template <typename Found>

@@ -27,8 +27,8 @@ namespace {
 
 constexpr OleColor kUsageGrey = 0x808080;
 constexpr OleColor kFileGreen = 0x004000;
-constexpr OleColor kTaskBlue = 0xFF0000;   // RGB 0, 0, 255
-constexpr OleColor kNoteRed = 0x0000FF;    // RGB 255, 0, 0
+constexpr OleColor kTaskBlue = 0xFF0000;  // RGB 0, 0, 255
+constexpr OleColor kNoteRed = 0x0000FF;   // RGB 255, 0, 0
 constexpr OleColor kContactGreen = 0x008000;
 
 /// The window gets its turn at these rows, and at every 300th: often enough to show
@@ -91,8 +91,8 @@ void cDiaryRecords::SearchForEvent(frmSearchResults& form, VbDate, const std::st
     CreateDiaryDataFileList(DateSerial(1900, 1, 1), DateSerial(2999, 12, 31), files, true);
     std::erase_if(files, [](const std::string& file) { return !isMonthlyFileName(GetFileNameOnly(file)); });
     long count = 0;
-    const std::vector<std::string> lines = SearchListOfDiaryFiles(caseSensitive, files, dateEnd, dateStart, text,
-                                                                  count, includeFileUsage, includePCUsage);
+    const std::vector<std::string> lines =
+        SearchListOfDiaryFiles(caseSensitive, files, dateEnd, dateStart, text, count, includeFileUsage, includePCUsage);
     ClearTotals();
 
     const std::string user = glbComms.GetMyUserName();
@@ -110,10 +110,9 @@ void cDiaryRecords::SearchForEvent(frmSearchResults& form, VbDate, const std::st
 
 std::vector<std::string> cDiaryRecords::SearchListOfDiaryFiles(bool caseSensitive,
                                                                const std::vector<std::string>& fileList,
-                                                               const std::string& dateEnd,
-                                                               const std::string& dateStart, const std::string& text,
-                                                               long& found, bool includeFileUsage,
-                                                               bool includePCUsage) {
+                                                               const std::string& dateEnd, const std::string& dateStart,
+                                                               const std::string& text, long& found,
+                                                               bool includeFileUsage, bool includePCUsage) {
     const RawLineFinder finder(text, caseSensitive);
     cDiaryRecord record;
     std::vector<std::string> lines = searchFiles(fileList, finder, [&](const std::string& line) {

@@ -32,11 +32,16 @@ struct DateRange {
 DateRange rangeOf(int choice, VbDate today) {
     const VbDate first = DateSerial(1984, 1, 1);
     switch (choice) {
-        case 1: return {today - 60, today + 15};
-        case 2: return {today, today + 42};
-        case 3: return {first, today - 1};
-        case kPickTheDates: return {DateSerial(Year(today), 1, 1), DateSerial(Year(today), 12, 31)};
-        default: return {first, DateSerial(2999, 12, 31)};
+        case 1:
+            return {today - 60, today + 15};
+        case 2:
+            return {today, today + 42};
+        case 3:
+            return {first, today - 1};
+        case kPickTheDates:
+            return {DateSerial(Year(today), 1, 1), DateSerial(Year(today), 12, 31)};
+        default:
+            return {first, DateSerial(2999, 12, 31)};
     }
 }
 
@@ -119,8 +124,10 @@ void frmInfoSearch::bindEvents() {
     // The kind of event follows the two usage boxes, as they follow it.
     auto kindFromBoxes = [this] {
         const bool pc = chkPCUsage.Value == vbChecked, file = chkFileUsage.Value == vbChecked;
-        cmbEventType.ListIndex = pc && file ? kAllEventTypes : pc ? kPCUsageLogged : file ? kFileUsageRecorded
-                                                                                          : kNormalEventsOnly;
+        cmbEventType.ListIndex = pc && file ? kAllEventTypes
+                                 : pc       ? kPCUsageLogged
+                                 : file     ? kFileUsageRecorded
+                                            : kNormalEventsOnly;
     };
     chkPCUsage.onClick = kindFromBoxes;
     chkFileUsage.onClick = kindFromBoxes;

@@ -166,8 +166,7 @@ void frmSearchResults::ViewRecordInSearchResults(ListItem& row) {
     }
     const std::string id = row.Tag();
     const std::string month = monthOfRow(row);
-    const VbDate date =
-        isDayText(row.SubItems(1)) ? DateFromYYYYMMDD(row.SubItems(1)) : DateFromYYYYMMDD(month + "01");
+    const VbDate date = isDayText(row.SubItems(1)) ? DateFromYYYYMMDD(row.SubItems(1)) : DateFromYYYYMMDD(month + "01");
     const bool inMemory = glbEvents.SelectDiaryRecordFromIDInMonth(id, month) >= 0;
     if (!inMemory) glbEvents.LoadDiaryData(date);
     if (glbEvents.SelectDiaryRecordFromIDInMonth(id, month) < 0) {

@@ -32,7 +32,8 @@ TEST_F(SearchRunTest, QuickFindListsTheRareWordOfEveryYear) {
            "shot frmInfoSearch screenshots/search-form.png\n"
            "click cmdSearch\n"
            "shot frmSearchResults screenshots/search-results.png - found 80 records\n";
-    ASSERT_TRUE(run.WaitForFile("driver.log", [](const std::string& done) { return done == "6"; }, 60000))
+    ASSERT_TRUE(run.WaitForFile(
+        "driver.log", [](const std::string& done) { return done == "6"; }, 60000))
         << "commands done: " << run.ReadFile("driver.log");
     EXPECT_EQ(run.CloseAndWait(), 0);
 

@@ -68,7 +68,8 @@ TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
         EXPECT_FALSE(entry->Enabled) << entry->Name();
     for (Menu* entry : {&Form().mnuFilePrint, &Form().mnuFileExit, &Form().mnuViewMode[2], &Form().mnuViewRefresh,
                         &Form().mnuBetaTest[3], &Form().mnuHelpContents, &Form().mnuAppAdd, &Form().mnuAppRecurring,
-                        &Form().mnuPopupGridAdd, &Form().mnuPingServer, &Form().mnuServerLogoff, &Form().mnuSearchQuick})
+                        &Form().mnuPopupGridAdd, &Form().mnuPingServer, &Form().mnuServerLogoff,
+                        &Form().mnuSearchQuick})
         EXPECT_TRUE(entry->Enabled) << entry->Name();
 
     // A task list asks to enable its entries; they stay off, and a click does nothing.

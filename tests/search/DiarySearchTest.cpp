@@ -79,17 +79,16 @@ TEST_F(DiarySearchTest, EveryYearsMonthsAreSearchedLineByLine) {
 }
 
 TEST_F(DiarySearchTest, RowsTellTheKindOfEventAndTheTotals) {
-    WriteLines("D200407.dat",
-               {EventLine("D200407010001", "20040701", "0900", "Budget", "Meeting", "45"),
-                Fields({"D200407010002", "20040701", "Phone", "1000", "30", "Call", "", "", "", "", "", "", "Private", "",
-                        "Doctor"}),
-                Usage("D200407010003", "20040701", "PCFile", "PCUsage", "Computer in use"),
-                Usage("D200407010004", "20040701", "Autobackup", "PCFile", "Backed up diary")});
+    WriteLines("D200407.dat", {EventLine("D200407010001", "20040701", "0900", "Budget", "Meeting", "45"),
+                               Fields({"D200407010002", "20040701", "Phone", "1000", "30", "Call", "", "", "", "", "",
+                                       "", "Private", "", "Doctor"}),
+                               Usage("D200407010003", "20040701", "PCFile", "PCUsage", "Computer in use"),
+                               Usage("D200407010004", "20040701", "Autobackup", "PCFile", "Backed up diary")});
     EXPECT_EQ(Search("", false, "20040701", "20040731", true, true),
               (std::vector<std::string>{"D200407010001", "D200407010002", "D200407010003", "D200407010004"}));
-    EXPECT_EQ(Rows(), (std::vector<std::string>{"|20040701|0900|Meeting|Budget", "|20040701|1000|Event - Private|Doctor",
-                                                "|20040701|1000|PC usage|Computer in use",
-                                                "|20040701|1000|File used|Backed up diary"}));
+    EXPECT_EQ(Rows(), (std::vector<std::string>{
+                          "|20040701|0900|Meeting|Budget", "|20040701|1000|Event - Private|Doctor",
+                          "|20040701|1000|PC usage|Computer in use", "|20040701|1000|File used|Backed up diary"}));
     ListView& list = Results().lvResults;
     std::vector<std::string> icons;
     for (long i = 1; i <= 4; ++i) icons.push_back(list.ListItems(i).ListSubItems(4).ReportIcon);

@@ -4,6 +4,7 @@
 
 #include "EventLines.h"
 #include "NetworkFixture.h"
+#include "ResultRows.h"
 #include "config/clsConfigDiary.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -48,8 +49,7 @@ protected:
             form.txtDetails.UserEdit(text, static_cast<long>(text.size()));
             for (const char* user : {"fred", "mary", "ann"}) form.lvUsers.ListItems.Add(user).Tag = user;
             form.chkLocalFilesOnly.UserClick();
-            for (const std::string& user : users)
-                form.lvUsers.UserCheckItem(*form.lvUsers.FindItem(user), true);
+            for (const std::string& user : users) form.lvUsers.UserCheckItem(*form.lvUsers.FindItem(user), true);
             form.cmdSearch.UserClick();
         });
         cSearch search;
@@ -58,23 +58,14 @@ protected:
         search.PerformSearch();
     }
     frmSearchResults& Results() { return SearchResultsForm(); }
-    std::vector<std::string> Rows() {
-        std::vector<std::string> rows;
-        ListView& list = Results().lvResults;
-        for (long i = 1; i <= list.ListItems.Count(); ++i) {
-            const ListItem& row = list.ListItems(i);
-            std::string text = row.Text() + (row.Bold ? " (bold)" : "");
-            for (long k = 1; k <= row.ListSubItems.Count(); ++k) text += "|" + row.SubItems(k);
-            rows.push_back(text);
-        }
-        return rows;
-    }
+    std::vector<std::string> Rows() { return test::RowTexts(Results().lvResults); }
 };
 
 TEST_F(NetworkSearchTest, OtherUsersEventsShowWhatTheirLevelsAllow) {
     Connect("ann");
     Search("", {"fred", "mary"});
-    EXPECT_EQ(Rows(), (std::vector<std::string>{"fred|20040605|0900|Event|", "mary|20040605|1000|Meeting|Bank loan meeting"}));
+    EXPECT_EQ(Rows(),
+              (std::vector<std::string>{"fred|20040605|0900|Event|", "mary|20040605|1000|Meeting|Bank loan meeting"}));
     EXPECT_EQ(Results().lvResults.ColumnHeaders(1).Width(), 1300);
     EXPECT_EQ(Results().Caption(), "Searching for  - found 2 records ");
     EXPECT_EQ(Results().status.Panels(1).Text(), "Spent 1 hr 30 min   minutes on <all items> ");

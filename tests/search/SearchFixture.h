@@ -7,6 +7,7 @@
 
 #include "EventLines.h"
 #include "MainScreenFixture.h"
+#include "ResultRows.h"
 #include "foundation/FileSystem.h"
 #include "foundation/VbString.h"
 #include "search/frmSearchResults.h"
@@ -23,18 +24,7 @@ protected:
         WriteBytes(Data(name), bytes);
     }
     frmSearchResults& Results() { return SearchResultsForm(); }
-    /// Each row as its text and cells, "|"-separated.
-    std::vector<std::string> Rows() {
-        std::vector<std::string> rows;
-        ListView& list = Results().lvResults;
-        for (long i = 1; i <= list.ListItems.Count(); ++i) {
-            const ListItem& row = list.ListItems(i);
-            std::string text = row.Text();
-            for (long k = 1; k <= row.ListSubItems.Count(); ++k) text += "|" + row.SubItems(k);
-            rows.push_back(text);
-        }
-        return rows;
-    }
+    std::vector<std::string> Rows() { return RowTexts(Results().lvResults); }
     /// The tags of the rows: the events' identifiers.
     std::vector<std::string> Tags() {
         std::vector<std::string> tags;

@@ -5,6 +5,7 @@
 
 #include "SearchFixture.h"
 #include "config/clsConfigDiary.h"
+#include "dialogs/frmEditEvent.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
@@ -12,7 +13,6 @@
 #include "pim/cTasks.h"
 #include "search/cSearch.h"
 #include "search/frmInfoSearch.h"
-#include "dialogs/frmEditEvent.h"
 
 using namespace orbidex;
 using test::EventLine;
@@ -22,9 +22,9 @@ protected:
     void SetUp() override {
         SearchFixture::SetUp();
         WriteLines("D200301.dat", {EventLine("D200301150001", "20030115", "0900", "Flight to Zanzibar")});
-        WriteLines("D200406.dat", {EventLine("D200406050001", "20040605", "1400", "Zanzibar visa at the embassy",
-                                             "Phone", "45"),
-                                   EventLine("D200406050002", "20040605", "1600", "Ring the bank")});
+        WriteLines("D200406.dat",
+                   {EventLine("D200406050001", "20040605", "1400", "Zanzibar visa at the embassy", "Phone", "45"),
+                    EventLine("D200406050002", "20040605", "1600", "Ring the bank")});
         WriteLines("D201912.dat", {EventLine("D201912240001", "20191224", "1000", "ZANZIBAR holiday")});
         WriteLines("D_tasks.dat", {"T200406010001|20040601||0900|60||||||||||Book the Zanzibar flights|",
                                    "T200406020001|20040602||1000|30||||||||||Pay the bank|"});
@@ -56,7 +56,8 @@ protected:
     }
     /// The next time the event editor opens, `edit` acts on it as the user.
     void QueueEventEditor(std::function<void(frmEditEvent&)> edit) {
-        platform_.QueueFormScript("frmEditEvent", [edit](orbidex::Form& form) { edit(static_cast<frmEditEvent&>(form)); });
+        platform_.QueueFormScript("frmEditEvent",
+                                  [edit](orbidex::Form& form) { edit(static_cast<frmEditEvent&>(form)); });
     }
 };
 
@@ -131,7 +132,8 @@ TEST_F(SearchWindowsTest, TheChoicesCountOnlyWhenSearchIsPressed) {
     search.PerformSearch();  // the case counts
     EXPECT_EQ(Rows(), std::vector<std::string>{});
 
-    platform_.QueueFormScript("frmInfoSearch", [](orbidex::Form& f) { static_cast<frmInfoSearch&>(f).cmdCancel.UserClick(); });
+    platform_.QueueFormScript("frmInfoSearch",
+                              [](orbidex::Form& f) { static_cast<frmInfoSearch&>(f).cmdCancel.UserClick(); });
     EXPECT_FALSE(search.ShowSearchInputForm());
     platform_.QueueFormScript("frmInfoSearch", [](orbidex::Form& f) { f.UserClose(); });
     EXPECT_FALSE(search.ShowSearchInputForm());
@@ -189,8 +191,12 @@ TEST_F(SearchWindowsTest, ARowOpensItsTaskItsNoteOrItsEventInWhateverYear) {
     EXPECT_EQ(gStrDiaryDataFile, Data("D200301.dat"));
     const std::vector<std::string> saved = SplitLines(ReadBytes(Data("D200301.dat")));
     ASSERT_EQ(saved.size(), 1U);
-    EXPECT_TRUE(StartsWith(saved[0], "D200301150001\x1F" "20030115\x1F"));
-    EXPECT_TRUE(EndsWith(saved[0], "\x1F" "Flight to Zanzibar via Nairobi\x1F"));
+    EXPECT_TRUE(StartsWith(saved[0],
+                           "D200301150001\x1F"
+                           "20030115\x1F"));
+    EXPECT_TRUE(EndsWith(saved[0],
+                         "\x1F"
+                         "Flight to Zanzibar via Nairobi\x1F"));
 
     // Rows without an event of this diary behind them say so, and the calendar stays.
     ListView& list = Results().lvResults;
@@ -249,7 +255,8 @@ TEST_F(SearchWindowsTest, QuickFindAndTheFindButtonOpenTheSearch) {
                                                 "|20040605|1600|Event|Ring the bank"}));
     EXPECT_TRUE(Form().timerSecond.Enabled);
 
-    platform_.QueueFormScript("frmInfoSearch", [](orbidex::Form& f) { static_cast<frmInfoSearch&>(f).cmdCancel.UserClick(); });
+    platform_.QueueFormScript("frmInfoSearch",
+                              [](orbidex::Form& f) { static_cast<frmInfoSearch&>(f).cmdCancel.UserClick(); });
     Form().Toolbar1.UserClickButton(Form().Toolbar1.Buttons("Find"));
     EXPECT_EQ(platform_.FormsShown().back(), "frmInfoSearch");
 
