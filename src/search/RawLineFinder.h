@@ -25,9 +25,6 @@ public:
     template <typename Found>
     void ForEachLine(std::string_view bytes, Found&& found) const;
 
-    /// True when `line` holds the text.
-    bool Holds(std::string_view line) const { return find(line, 0) != std::string_view::npos; }
-
 private:
     /// The place of the next hit at or after `from`, or npos.
     size_t find(std::string_view bytes, size_t from) const;
