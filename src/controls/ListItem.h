@@ -84,7 +84,8 @@ public:
     /// Called by ListView and ListItem.
     std::vector<std::unique_ptr<ListItem>>& Rows() { return items_; }
     const std::vector<std::unique_ptr<ListItem>>& Rows() const { return items_; }
-    void Renumber();
+    /// Numbers the rows from place `from` (from 0) on; those before keep their numbers.
+    void Renumber(size_t from = 0);
     /// A row's key changed: keeps the key index right; a key that another row
     /// has is refused and the row keeps its old one.
     void KeyChanged(ListItem& item);

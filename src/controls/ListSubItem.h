@@ -25,6 +25,8 @@ public:
     Property<std::string> Key{this};
     Property<std::string> Tag{this};
     Property<std::string> ToolTipText{this};
+    /// The name of the icon drawn in the cell, "" for none.
+    Property<std::string> ReportIcon{this};
     long Index() const { return index_; }
 
     void PropertyChanged(const void* property) override;

@@ -69,6 +69,7 @@ void ListSubItem::Reset() {
     Key.setQuietly("");
     Tag.setQuietly("");
     ToolTipText.setQuietly("");
+    ReportIcon.setQuietly("");
 }
 
 ListSubItem& SubItemCollection::Add(const std::string& text, const std::string& key) {
@@ -171,7 +172,7 @@ ListItem& ListItemCollection::insertAt(size_t position, const std::string& text,
     }
     ListItem& added = *item;
     items_.insert(items_.begin() + static_cast<long>(position), std::move(item));
-    Renumber();
+    Renumber(position);  // a row added at the end numbers itself alone
     owner_.StructureChanged();
     return added;
 }
@@ -209,8 +210,8 @@ void ListItemCollection::Clear() {
     owner_.StructureChanged();
 }
 
-void ListItemCollection::Renumber() {
-    for (size_t i = 0; i < items_.size(); ++i) items_[i]->index_ = static_cast<long>(i + 1);
+void ListItemCollection::Renumber(size_t from) {
+    for (size_t i = from; i < items_.size(); ++i) items_[i]->index_ = static_cast<long>(i + 1);
 }
 
 void ListItemCollection::KeyChanged(ListItem& item) {

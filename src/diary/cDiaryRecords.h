@@ -27,6 +27,7 @@ class MonthView;
 class StatusBar;
 class clsTimeSlots;
 class frmClientDiaryMain;
+class frmSearchResults;
 
 class cDiaryRecords {
 public:
@@ -149,6 +150,8 @@ public:
     void DisplayLocations(ComboBox& control);
     /// Fills the list with the common references, then the user's own in their place.
     void DisplayReferences(ComboBox& control);
+    void DisplayLocations(ListView& control);
+    void DisplayReferences(ListView& control);
 
     // The calendar side of the main window: the time grid and the event list
 
@@ -179,6 +182,43 @@ public:
     void DisplayScheduleInListView(ListView& list, VbDate date, int days, const cDiaryRecord& header);
     /// Gives the item's text and its first `columns` sub-items one fore colour.
     void SetListViewColumnsColour(ListItem& item, long columns, OleColor colour);
+
+    // Search over the monthly files and, through the server, other users' diaries;
+    // the result rows go into a frmSearchResults (src/search).
+
+    /// Lists in `form` the events of every monthly file that hold `text` and lie
+    /// between the two dates ("yyyymmdd", both included), usage events only when
+    /// asked for.  `date` is the moment of the search.
+    void SearchForEvent(frmSearchResults& form, VbDate date, const std::string& text, const std::string& dateStart,
+                        const std::string& dateEnd, bool includePCUsage, bool includeFileUsage,
+                        bool caseSensitive = false);
+    /// The raw lines of the files that hold `text` (looked for before any line is
+    /// parsed), whose event lies between the two dates and is not a usage event left
+    /// out.  `found` gets their number.  An unreadable file ends the search there.
+    std::vector<std::string> SearchListOfDiaryFiles(bool caseSensitive, const std::vector<std::string>& fileList,
+                                                    const std::string& dateEnd, const std::string& dateStart,
+                                                    const std::string& text, long& found, bool includeFileUsage,
+                                                    bool includePCUsage);
+    /// The same over every D*.dat of the data folder, without regard to case and
+    /// without the PC usage and file lines.
+    std::vector<std::string> grepDiaryFilesForString(const std::string& text, long& found,
+                                                     const std::string& dateStart, const std::string& dateEnd);
+    /// Asks the server for the events of `users` (a list of names, each followed by
+    /// ", ") and lists them in `form`.
+    void SearchForNetworkEvents(frmSearchResults& form, const std::string& text, const std::string& users,
+                                const std::string& dateStart, const std::string& dateEnd);
+    /// Adds the row of an event to the result list, with its kind's icon, and counts it.
+    ListItem& AddDiaryRecordToSearchResult(const cDiaryRecord& record, ListView& list, const std::string& user);
+    /// The same with a cell for each field whose heading in the list mode is shown.
+    ListItem& AddDiaryRecordToSearchResult_USER_DEFINED(const cDiaryRecord& record, ListView& list,
+                                                        const std::string& user);
+    /// Whether the upper-cased `text` holds the keywords (the first found, or with
+    /// `matchAll` as many as the list's upper bound); the excluded words can only
+    /// make the answer true, never false.
+    static bool IsKeywordInText(const std::string& text, const std::vector<std::string>& keywords, bool matchAll,
+                                const std::vector<std::string>& excludeWords, bool matchAllExcludes);
+    /// The index of the event behind the selected line of a list of file events, or -1.
+    long GetCurrentEventByClickingOnFileList(ListBox& list);
 
     /// Writes the month's page of the events in `records` (from index 0) to `htmlFile`;
     /// unless `always`, a page newer than the monthly file is left as it is.

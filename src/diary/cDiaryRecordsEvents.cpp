@@ -256,14 +256,31 @@ void cDiaryRecords::SendEventChanges(const cDiaryRecord& oldRecord, const cDiary
                      newRecord.FormatDiaryRecordAsCSV(kFieldDelimiter, "") + "\r\n");
 }
 
+namespace {
+
+/// The office's word list, then the user's own in its place when there is one.
+template <typename List>
+void loadWordList(List& control, const std::string& common, const std::string& own) {
+    LoadFileToListBox(control, gStrDataPath + common);
+    LoadFileToListBox(control, gStrDataPath + own);
+}
+
+}  // namespace
+
 void cDiaryRecords::DisplayLocations(ComboBox& control) {
-    LoadFileToListBox(control, gStrDataPath + "common_locations.txt");
-    LoadFileToListBox(control, gStrDataPath + "locations.txt");
+    loadWordList(control, "common_locations.txt", "locations.txt");
 }
 
 void cDiaryRecords::DisplayReferences(ComboBox& control) {
-    LoadFileToListBox(control, gStrDataPath + "common_references.txt");
-    LoadFileToListBox(control, gStrDataPath + "references.txt");
+    loadWordList(control, "common_references.txt", "references.txt");
+}
+
+void cDiaryRecords::DisplayLocations(ListView& control) {
+    loadWordList(control, "common_locations.txt", "locations.txt");
+}
+
+void cDiaryRecords::DisplayReferences(ListView& control) {
+    loadWordList(control, "common_references.txt", "references.txt");
 }
 
 }  // namespace orbidex

@@ -100,4 +100,16 @@ void cDiaryRecords::SetListViewColumnsColour(ListItem& item, long columns, OleCo
     for (long k = 1; k <= columns; ++k) item.ListSubItems(k).ForeColor = colour;
 }
 
+ListItem& cDiaryRecords::AddDiaryRecordToSearchResult_USER_DEFINED(const cDiaryRecord& record, ListView& list,
+                                                                   const std::string& user) {
+    ListItem& item = list.ListItems.Add(user, "", "calendar", "calendar");
+    item.Tag = record.ID;
+    long columns = 0;
+    for (const ListColumn& column : kListColumns)
+        if (gListViewHeadings.*column.field != kHidden) item.SetSubItems(++columns, record.*column.field);
+    AddMinutes(totTime_, record.length);
+    ++totEventsFound_;
+    return item;
+}
+
 }  // namespace orbidex

@@ -178,11 +178,31 @@ std::vector<std::string> ListFolder(std::string_view storedPattern, bool include
 
 bool ReadWholeFile(std::string_view storedPath, std::string& bytes) {
     const std::string native = ToNativePath(storedPath);
-    if (kindOf(native) != Kind::File) return false;
-    std::ifstream in(native, std::ios::binary);
-    if (!in) return false;
-    bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-    return !in.bad();
+    // Without blocking, so that a pipe or a device of that name is refused, not waited on.
+    const int fd = ::open(native.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0) return false;
+    struct stat st {};
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+        ::close(fd);
+        return false;
+    }
+    // One read of the size the file has, then on until the end, in case it grew.
+    bool ok = true;
+    size_t length = 0;
+    bytes.resize(static_cast<size_t>(st.st_size) + 1);
+    while (true) {
+        if (length == bytes.size()) bytes.resize(bytes.size() * 2);
+        const ssize_t got = ::read(fd, bytes.data() + length, bytes.size() - length);
+        if (got < 0 && errno == EINTR) continue;
+        if (got <= 0) {
+            ok = got == 0;
+            break;
+        }
+        length += static_cast<size_t>(got);
+    }
+    ::close(fd);
+    bytes.resize(ok ? length : 0);
+    return ok;
 }
 
 namespace {

@@ -15,6 +15,7 @@
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
+#include "search/frmSearchResults.h"
 
 namespace orbidex {
 
@@ -41,6 +42,7 @@ void ResetProgramObjects() {
     glbMessages = cMessages();
     ResetChatForm();
     ResetStickyNote();
+    ResetSearchResultsForm();
 }
 
 }  // namespace orbidex

@@ -36,6 +36,8 @@ bool glbRefreshNeeded = false;
 std::string glbTickedUsers;
 std::string glbResultsFile;
 std::string glbKeepAliveSwitch;
+bool glbSearching = false;
+bool glbCancelClicked = false;
 
 void ResetProgramState() {
     NETWORK_STRING = "LOCAL";
@@ -67,6 +69,8 @@ void ResetProgramState() {
     glbTickedUsers.clear();
     glbResultsFile.clear();
     glbKeepAliveSwitch.clear();
+    glbSearching = false;
+    glbCancelClicked = false;
 
     ResetCachedNames();
     glbLog = cLog();

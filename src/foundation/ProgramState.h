@@ -44,6 +44,10 @@ extern std::string glbTickedUsers;
 extern std::string glbResultsFile;
 extern std::string glbKeepAliveSwitch;
 
+// The search
+extern bool glbSearching;                 ///< a search is filling the result list
+extern bool glbCancelClicked;             ///< the search form was closed without searching
+
 /// Puts every global value and object back to its start value, so that each test
 /// starts clean.
 void ResetProgramState();

@@ -53,9 +53,9 @@ public:
     std::optional<cNote> GetFromList(const ListItem* listItem);
     /// An unfinished filter: changes nothing and says so.
     void filter();
-    /// Adds a row to `lvResults` for each note whose line holds `keyword`, without
-    /// regard to case.  The texts are not searched.
-    void Search(ListView& lvResults, const std::string& keyword);
+    /// Adds a row to `lvResults` for each note whose line or text holds `keyword`,
+    /// without regard to case unless `caseSensitive`.
+    void Search(ListView& lvResults, const std::string& keyword, bool caseSensitive = false);
     /// Binds the table to `fileName` and loads it.
     void init(const std::string& fileName);
     /// The columns of the note list: " " and "Title".

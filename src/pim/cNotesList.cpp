@@ -38,10 +38,13 @@ std::optional<cNote> cNotes::GetFromList(const ListItem* listItem) {
     return FindByID(Left(listItem->Tag(), 13));
 }
 
-void cNotes::Search(ListView& lvResults, const std::string& keyword) {
+void cNotes::Search(ListView& lvResults, const std::string& keyword, bool caseSensitive) {
+    // The note's line of the list is searched (its title, category, colour, reference and
+    // file name), not the text in its body file.
     for (long i = 0; i <= Count(); ++i) {
         const std::string& line = table_.Item(i);
-        if (InStrText(1, line, keyword) == 0) continue;
+        if (Trim(line).empty()) continue;
+        if ((caseSensitive ? InStr(line, keyword) : InStrText(1, line, keyword)) == 0) continue;
         cNote note;
         note.CreateNoteFromTextLine(line, kFieldDelimiter);
         AddToSearchResults(lvResults, note);

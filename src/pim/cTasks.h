@@ -51,8 +51,9 @@ public:
     std::optional<cTask> GetFromList(const ListItem* listItem);
     /// An unfinished filter: changes nothing and says so.
     void filter(const std::string& text);
-    /// Adds a row to `lvResults` for each task whose line holds `keyword` (exact case).
-    void Search(ListView& lvResults, const std::string& keyword);
+    /// Adds a row to `lvResults` for each task whose line holds `keyword`, with
+    /// regard to case unless `caseSensitive` is false.
+    void Search(ListView& lvResults, const std::string& keyword, bool caseSensitive = true);
     void DisplayInHtml() {}
     /// Binds the table to `fileName` and loads it.
     void init(const std::string& fileName);

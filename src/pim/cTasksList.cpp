@@ -111,13 +111,15 @@ std::optional<cTask> cTasks::GetFromList(const ListItem* listItem) {
     return FindByID(Left(listItem->Tag(), 13));
 }
 
-void cTasks::Search(ListView& lvResults, const std::string& keyword) {
+void cTasks::Search(ListView& lvResults, const std::string& keyword, bool caseSensitive) {
     cTask task;
     task.SetDefault();
     for (long i = 0; i <= Count(); ++i) {
         const std::string& line = table_.Item(i);
+        if (Trim(line).empty()) continue;
         task.CreateTaskFromTextLine(line, kFieldDelimiter);
-        if (InStr(line, keyword) > 0) AddToSearchResults(lvResults, task);
+        if ((caseSensitive ? InStr(line, keyword) : InStrText(1, line, keyword)) > 0)
+            AddToSearchResults(lvResults, task);
     }
 }
 

@@ -97,6 +97,10 @@ public:
     /// One of the maker's web pages, in the desktop's browser.
     void OpenMakersPage(MakersPage page);
 
+    /// The search form, then the results of what it asked for; the timer is off
+    /// meanwhile.
+    void Search();
+
     /// A tree node clicked: by its key (or its text) a mode, or a mode and a command.
     void NavigationClicked(const std::string& key, const std::string& text);
     /// A tool bar button, or an entry of its drop-down menu, by its key.
@@ -140,7 +144,6 @@ public:
     // buttons that lead only here are disabled; the tree, whose nodes cannot be,
     // reaches them and the status bar says so.
     void BookMeeting(VbDate date, const std::string& time);
-    void Search();
     void ShowOptions();
     void ViewYear();
     void serverRefreshStaffData();

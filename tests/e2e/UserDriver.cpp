@@ -5,11 +5,14 @@
 //   click <name>        a menu entry or a button
 //   type <name> <text>  keys typed into a text box
 //   press <name> <key>  one key ("Return") pressed in a text box
+//   shot <window> <file> [<text>]  a picture of a window, once its title holds the text
 // Each command done is counted in "driver.log".  The program itself is unchanged.
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
@@ -64,6 +67,16 @@ bool perform(const QString& command, QObject* target, const QString& text) {
     return false;
 }
 
+// Saves a picture of the shown window `name` once its title holds `title`.
+bool takeShot(const QString& name, const QString& file, const QString& title) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (!window->isVisible() || window->objectName() != name || !window->windowTitle().contains(title)) continue;
+        QDir().mkpath(QFileInfo(file).path());
+        return window->grab().save(file);
+    }
+    return false;
+}
+
 void startDriver() {
     auto* timer = new QTimer(qApp);
     auto done = std::make_shared<int>(0);
@@ -74,8 +87,12 @@ void startDriver() {
         if (*done >= lines.size()) return;
         const QStringList words = lines[*done].trimmed().split(QLatin1Char(' '));
         if (words.size() < 2) return;
-        QObject* target = findShown(words[1]);
-        if (target == nullptr || !perform(words[0], target, words.mid(2).join(QLatin1Char(' ')))) return;
+        if (words[0] == QLatin1String("shot")) {
+            if (words.size() < 3 || !takeShot(words[1], words[2], words.mid(3).join(QLatin1Char(' ')))) return;
+        } else {
+            QObject* target = findShown(words[1]);
+            if (target == nullptr || !perform(words[0], target, words.mid(2).join(QLatin1Char(' ')))) return;
+        }
         ++*done;
         QFile log(QStringLiteral("driver.log"));
         if (log.open(QIODevice::WriteOnly | QIODevice::Truncate)) log.write(QByteArray::number(*done));

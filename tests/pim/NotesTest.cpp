@@ -195,8 +195,10 @@ TEST_F(NotesTest, ANoteFromAFileElsewhereIsItsExactCopyUnderAFreeName) {
     EXPECT_EQ(glbNotes.Count(), 5);
 }
 
-TEST_F(NotesTest, SearchLooksAtTheLinesWithoutRegardToCaseButNotAtTheTexts) {
-    glbNotes.Search(list, "budget");  // a word of a text only
+TEST_F(NotesTest, SearchLooksAtTheListsLinesWithoutRegardToCaseUnlessAsked) {
+    glbNotes.Search(list, "budget");  // a word of a note's text only
+    EXPECT_EQ(list.ListItems.Count(), 0);
+    glbNotes.Search(list, "MEETING", true);
     EXPECT_EQ(list.ListItems.Count(), 0);
     glbNotes.Search(list, "MEETING");
     ASSERT_EQ(list.ListItems.Count(), 1);

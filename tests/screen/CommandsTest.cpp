@@ -63,14 +63,14 @@ TEST_F(CommandsTest, GridOrListIsSavedAndShown) {
 
 TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
     StartProgram();
-    for (Menu* entry : {&Form().mnuFileImport, &Form().mnuSearchQuick, &Form().mnuTaskHeadings, &Form().mnuNotesMenu[3],
+    for (Menu* entry : {&Form().mnuFileImport, &Form().mnuTaskHeadings, &Form().mnuNotesMenu[3],
                         &Form().mnuBetaTest[0], &Form().mnuAppPlanMeeting})
         EXPECT_FALSE(entry->Enabled) << entry->Name();
     for (Menu* entry :
          {&Form().mnuFilePrint, &Form().mnuFileExit, &Form().mnuViewMode[2], &Form().mnuViewRefresh,
           &Form().mnuBetaTest[3], &Form().mnuHelpContents, &Form().mnuAppAdd, &Form().mnuAppRecurring,
           &Form().mnuPopupGridAdd, &Form().mnuTaskMenu[0], &Form().mnuNotesMenu[5], &Form().mnuBetaReindexTask,
-          &Form().mnuPingServer, &Form().mnuServerLogoff})
+          &Form().mnuPingServer, &Form().mnuServerLogoff, &Form().mnuSearchQuick})
         EXPECT_TRUE(entry->Enabled) << entry->Name();
 
     // A click on a row asks to enable the notes' entries; the field picker stays off.
@@ -80,7 +80,7 @@ TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
 
     // "new" adds where there is something to add: events, tasks and notes.
     Toolbar& bar = Form().Toolbar1;
-    EXPECT_FALSE(bar.Buttons("Find").Enabled);
+    EXPECT_TRUE(bar.Buttons("Find").Enabled);
     EXPECT_TRUE(bar.Buttons("print").Enabled);
     EXPECT_TRUE(bar.Buttons("new").ButtonMenus(2)->Enabled);
     for (const char* mode : {"HOME", "CALENDAR", "TASK", "NOTE", "MESSAGE", "STAFF"}) {

@@ -23,6 +23,7 @@ namespace orbidex {
 
 FormWindow::FormWindow(Form& form, QWidget* parent)
     : QWidget(parent), form_(&form), menuBar_(new QMenuBar), canvas_(new QWidget), menus_(new MenuBuilder(this)) {
+    setObjectName(QString::fromStdString(form.Name()));  // for accessibility tools and test drivers
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

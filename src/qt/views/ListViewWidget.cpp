@@ -58,7 +58,8 @@ public:
                 if (column == 0 && list_.Checkboxes) return item->Checked ? Qt::Checked : Qt::Unchecked;
                 return {};
             case Qt::DecorationRole: {
-                if (column != 0) return {};
+                if (column != 0)
+                    return cell != nullptr && !cell->ReportIcon().empty() ? IconNamed(cell->ReportIcon) : QVariant();
                 const std::string& first = icons_ ? item->Icon() : item->SmallIcon();
                 const std::string& second = icons_ ? item->SmallIcon() : item->Icon();
                 const std::string& name = first.empty() ? second : first;
