@@ -12,6 +12,7 @@
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
+#include "screen/frmStickyNote.h"
 
 namespace orbidex {
 
@@ -35,6 +36,7 @@ void ResetProgramObjects() {
     gNoteHeadings = cNote();
     gListAndDetails = ListAndDetailsDefinition();
     ResetMainForm();
+    ResetStickyNote();
 }
 
 }  // namespace orbidex

@@ -11,8 +11,10 @@ void RegisterProgramWindows(QtFormRegistry& registry) {
     registry.Register("frmClientDiaryMain",
                       [](Form& form) { return new MainWindow(static_cast<frmClientDiaryMain&>(form)); });
 
-    // The event dialogs: every control is drawn at its place by the form's window.
-    for (const char* dialog : {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator"})
+    // The event dialogs and the sticky note: every control is drawn at its place by the
+    // form's window.
+    for (const char* dialog :
+         {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator", "frmStickyNote"})
         registry.Register(dialog, [](Form& form) { return new FormWindow(form); });
 }
 

@@ -142,6 +142,7 @@ void clsDiaryScreen::setUpHome() {
             false);
     form.web.Visible = true;
     toolbarForMode("HOME");
+    showOverview();
 }
 
 void clsDiaryScreen::setUpCalendar() {
