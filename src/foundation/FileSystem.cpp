@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <ctime>
@@ -179,9 +180,14 @@ std::vector<std::string> ListFolder(std::string_view storedPattern, bool include
 bool ReadWholeFile(std::string_view storedPath, std::string& bytes) {
     const std::string native = ToNativePath(storedPath);
     if (kindOf(native) != Kind::File) return false;
-    std::ifstream in(native, std::ios::binary);
+    std::ifstream in(native, std::ios::binary | std::ios::ate);
     if (!in) return false;
-    bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    // In one read of the size the file has now; a file that shrank meanwhile gives what it holds.
+    const std::streamoff size = in.tellg();
+    in.seekg(0);
+    bytes.resize(static_cast<size_t>(std::max<std::streamoff>(size, 0)));
+    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<size_t>(in.gcount()));
     return !in.bad();
 }
 

@@ -1,6 +1,8 @@
 // Reminders: each minute the lines of today's month file and of the task file that
 // mention today are read again; those whose reminder falls between the last check
 // and now are shown on the sticky note once, and their keys kept in reminded.log.
+#include <algorithm>
+
 #include "config/clsConfigDiary.h"
 #include "diary/cDiaryRecord.h"
 #include "diary/cDiaryRecords.h"
@@ -18,9 +20,18 @@ namespace orbidex {
 
 namespace {
 
-// The window gets its turn every so many lines of the files; more often would make
-// the minute's scan cost more than the reading.
-constexpr long kLinesPerTurn = 100;
+// The lines of `text` that hold `part` anywhere, each once, in their order.
+std::vector<std::string> linesHolding(const std::string& text, const std::string& part) {
+    std::vector<std::string> lines;
+    for (size_t at = text.find(part); at != std::string::npos;) {
+        const size_t before = text.find_last_of("\r\n", at);
+        const size_t start = before == std::string::npos ? 0 : before + 1;
+        const size_t end = std::min(text.find_first_of("\r\n", at), text.size());
+        lines.push_back(text.substr(start, end - start));
+        at = text.find(part, end);
+    }
+    return lines;
+}
 
 // The line over the note: the day and the time of the event, as people write them.
 std::string whenText(const cDiaryRecord& record) {
@@ -36,6 +47,7 @@ std::string whenText(const cDiaryRecord& record) {
 
 void clsDiaryScreen::CheckReminders() {
     const std::string lastTime = glbConfig.GetValue("diary", "TimeRemindersLastChecked");
+    const std::string lastDate = glbConfig.GetValue("diary", "DateRemindersLastChecked");
     const VbDate now = Now();
     const std::string today = FormatDate(now, "yyyymmdd");
     const std::string timeNow = FormatDate(now, "hhmm");
@@ -58,7 +70,8 @@ void clsDiaryScreen::CheckReminders() {
     }
     // The moment the scan began: a reminder that falls due while it runs comes at the next.
     glbConfig.SetVal("diary", "TimeRemindersLastChecked", timeNow);
-    glbConfig.SetVal("diary", "DateRemindersLastChecked", today);
+    // The date plays no part in the window; it is written once a day, not at every minute.
+    if (lastDate != today) glbConfig.SetVal("diary", "DateRemindersLastChecked", today);
 }
 
 void clsDiaryScreen::grepReminders(const std::string& today, std::vector<std::string>& lines, long& count) {
@@ -76,10 +89,9 @@ void clsDiaryScreen::grepReminders(const std::string& today, std::vector<std::st
             return;
         }
         loggedOnce_.erase(file);  // a file that reads again may fail again, and is told again
-        long read = 0;
-        for (const std::string& line : SplitLines(bytes)) {
-            if (++read % kLinesPerTurn == 0) platform().DoEvents();
-            if (line.find(today) == std::string::npos) continue;
+        // Finding today's date in the bytes takes less than a turn of the window would.
+        platform().DoEvents();
+        for (const std::string& line : linesHolding(bytes, today)) {
             // Lines that record the use of a file on the PC are never reminders.
             if (InStrText(10, line, pcFileMark) > 0) continue;
             if (tasks) logOnce(line, "Found task reminder");

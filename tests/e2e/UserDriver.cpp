@@ -4,11 +4,14 @@
 // controls, as soon as the control is on screen:
 //   click <name>        a menu entry or a button
 //   type <name> <text>  keys typed into a text box
+//   grab <name> <file>  the window that holds the control saved as a PNG picture
 // Each command done is counted in "driver.log".  The program itself is unchanged.
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
@@ -54,6 +57,12 @@ bool perform(const QString& command, QObject* target, const QString& text) {
         if (editor == nullptr) return false;
         QTest::keyClicks(editor, text);
         return true;
+    }
+    if (command == QLatin1String("grab")) {
+        auto* widget = qobject_cast<QWidget*>(target);
+        if (widget == nullptr || text.isEmpty()) return false;
+        QDir().mkpath(QFileInfo(text).absolutePath());
+        return widget->window()->grab().save(text);
     }
     return false;
 }
