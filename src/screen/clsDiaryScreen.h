@@ -102,10 +102,12 @@ private:
 
     frmClientDiaryMain* form_ = nullptr;
     std::string mode_;
-    long columnWidth_ = 0;              ///< 0: the month calendar's own width
-    long browserHeight_ = 0;            ///< 0: a third of the main area
-    std::string overviewSources_;       ///< the day and the file stamps the page was made from
-    std::set<std::string> loggedOnce_;  ///< what the minute's scan has logged in this run
+    long columnWidth_ = 0;    ///< 0: the month calendar's own width
+    long browserHeight_ = 0;  ///< 0: a third of the main area
+    // The day and the stamps of the files the overview on screen was written from.
+    std::string overviewSources_;
+    // What the minute's reminder scan has logged once in this run.
+    std::set<std::string> loggedOnce_;
 };
 
 extern clsDiaryScreen glbScreen;

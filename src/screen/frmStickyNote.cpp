@@ -39,6 +39,7 @@ frmStickyNote::frmStickyNote() : Form("frmStickyNote") {
     Command1.Caption = "OK";
     Command1.Default = true;
     Command1.Cancel = true;
+    // About the client area of a window of that size, until the window tells its own.
     placeControls(Width - 240, Height - 600);
     SetActiveControl(&Command1);
 
