@@ -17,8 +17,6 @@
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
-#include "foundation/modMain.h"
-#include "screen/clsDiaryScreen.h"
 #include "screen/frmStickyNote.h"
 
 using namespace orbidex;
@@ -129,6 +127,7 @@ TEST_F(RemindersTest, ADayMinuteByMinuteShowsEachReminderOnceAtItsMinuteThroughA
     EXPECT_EQ(static_cast<long>(Reminded().size()), 30);
     EXPECT_EQ(platform_.BeepCount(), 30);
     EXPECT_EQ(StickyNote().Caption(), "Reminder for 0800");
+    EXPECT_EQ(StickyNote().lblNote.Caption(), "Saturday, 5 June 2004  at 08:00");
     EXPECT_EQ(StickyNote().txtNote.Text(), "Task 9");
     EXPECT_EQ(glbConfig.GetValue("diary", "TimeRemindersLastChecked"), "2359");
     EXPECT_EQ(glbConfig.GetValue("diary", "DateRemindersLastChecked"), "20040605");
@@ -194,35 +193,4 @@ TEST_F(RemindersTest, TheSettingsDecideBeepAndNoteAndTheLogLevelWhetherItIsRemem
         EXPECT_EQ(NotesShown() - notes, c.notes);
         EXPECT_EQ(static_cast<long>(Reminded().size()), c.remembered);
     }
-}
-
-TEST_F(RemindersTest, TheNoteSaysWhatAndWhenAndEachWayOfClosingItLetsTheReminderGo) {
-    WriteBytes(DataPath() + "D200406.dat", eventLine("D200406050001", "1000", "Call Ann", "20040605", "0931") +
-                                               eventLine("D200406050002", "1000", "Pay the rent", "20040605", "0931"));
-    StartAt(kDay + TimeSerial(9, 30, 30));
-    frmStickyNote& note = StickyNote();
-    EXPECT_EQ(note.Caption(), "Sticky Note");
-    TickAt(kDay + TimeSerial(9, 31, 0));
-    // Two reminders in one minute: the second replaces the text of the one note.
-    EXPECT_EQ(NotesShown(), 2);
-    EXPECT_EQ(note.Caption(), "Reminder for 1000");
-    EXPECT_EQ(note.lblNote.Caption(), "Saturday, 5 June 2004  at 10:00");
-    EXPECT_EQ(note.txtNote.Text(), "Pay the rent");
-    EXPECT_EQ(note.txtNote.FontName(), "Comic Sans MS");
-    EXPECT_TRUE(note.AlwaysOnTop());
-    // Centred on the scripted screen of 15360 by 11520 twips.
-    EXPECT_EQ(note.Left() * 2 + note.Width(), 15360);
-    EXPECT_EQ(note.Top() * 2 + note.Height(), 11520);
-
-    for (const auto close :
-         {+[](frmStickyNote& n) { n.cmdRemindLater.UserClick(); }, +[](frmStickyNote& n) { n.Command1.UserClick(); },
-          +[](frmStickyNote& n) { n.txtNote.UserDblClick(); }}) {
-        note.Show(false);
-        close(note);
-        EXPECT_TRUE(note.IsUnloaded());
-    }
-    EXPECT_EQ(note.cmdRemindLater.Caption(), "Remind me again later");
-    // "Remind me again later" schedules nothing: the reminder is remembered as shown.
-    TickAt(kDay + TimeSerial(9, 32, 0));
-    EXPECT_EQ(NotesShown(), 5);
 }
