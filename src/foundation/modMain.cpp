@@ -88,6 +88,8 @@ void buildMainWindow() {
     glbLog.log("TOK - mainForm.drawForm", 0);
     glbScreen.SwitchMode("CALENDAR");
     glbLog.log("TOK - mainForm.SwitchMode CALENDAR", 0);
+    // A user who hides the calendar from the main screen starts on the overview.
+    if (glbConfig.ShowCalendar == 0) glbScreen.SwitchMode("HOME");
 }
 
 // A client's session with the server begins here.

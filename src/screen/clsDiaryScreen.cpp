@@ -144,6 +144,7 @@ void clsDiaryScreen::setUpHome() {
             false);
     form.web.Visible = true;
     toolbarForMode("HOME");
+    showOverview();
 }
 
 void clsDiaryScreen::setUpCalendar() {
@@ -255,6 +256,8 @@ void clsDiaryScreen::setUpMoney() {
 
 void clsDiaryScreen::selectTreeNode(const std::string& key) {
     if (Node* node = form_->tv.Nodes.Item(key)) form_->tv.SetSelectedItem(node);
+    // The shortcut bar marks the mode on screen too, however it was chosen.
+    if (ListItem* shortcut = form_->lvView.ListItems.Item(key)) form_->lvView.SetSelectedItem(shortcut);
 }
 
 }  // namespace orbidex

@@ -12,6 +12,11 @@
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
 #include "network/cMessages.h"
+#include "foundation/VbString.h"
+#include "foundation/cLog.h"
+#include "network/cComms.h"
+#include "network/cDiaryComms.h"
+#include "platform/Platform.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
 
@@ -124,9 +129,37 @@ void frmClientDiaryMain::ResizeGridColumns() {
 }
 
 void frmClientDiaryMain::timerSecond_Timer() {
-    const std::string second = FormatDate(Now(), "hh:mm:ss");
+    // One time of day for the whole body: the second that started it decides whether
+    // this is the full minute, so a minute's work never runs twice.
+    const VbDate now = Now();
+    const std::string second = FormatDate(now, "hh:mm:ss");
     if (second == lastSecond_) return;
     lastSecond_ = second;
+    timerSecond.Enabled = false;
+    const bool client = NETWORK_STRING == "CLIENT";
+    const bool serverWanted = client && Val(glbConfig.runLocalModeOnly) == 0;
+    if (serverWanted) glbComms.UpdateServerWithChangedFiles(gStrDataPath);
+    if (client && (glbChatMode || glbComms.glbPollFrequently() == "True")) glbComms.CheckForServerRequests();
+    if (Second(now) != 0) {
+        timerSecond.Enabled = true;
+        return;
+    }
+
+    if (serverWanted) {
+        if (glbConfig.RetryAfterOutage == 0 && !glbServerAlive) {
+            glbLog.log("Server is down - checking to see if its alive", 0);
+            glbDiaryComms.PingClient();
+        }
+        glbComms.CheckForServerRequests();
+        if (glbRefreshNeeded) {
+            glbCmd.viewRefresh();
+            timerSecond.Enabled = false;  // the refresh turns the timer back on
+        }
+    }
+    platform().DoEvents();
+    glbScreen.CheckReminders();
+    glbScreen.RefreshOverviewIfStale();
+    timerSecond.Enabled = true;
 }
 
 void frmClientDiaryMain::tv_NodeClick(Node& node) {

@@ -33,7 +33,10 @@ public:
     void Form_Unload(int& cancel) override;
     /// Widens the day columns to the grid, when the settings ask for it.
     void ResizeGridColumns();
-    /// Runs once for each new second however the timer's ticks fall.
+    /// Runs once for each new second however the timer's ticks fall, with the timer
+    /// off while it works: a client hands changed files over (and polls the server
+    /// while asked to); on the full minute a client pings a server that is down and
+    /// polls it, and every program shows the reminders that fell due.
     void timerSecond_Timer();
 
     // Menu entries whose operation this version of the program does not have stay

@@ -1,7 +1,7 @@
 #pragma once
-// The note window: a reminder, or a notice from another user, shown on top of every
-// window without waiting.  One window serves all: a new note replaces the text of
-// the one open.
+// The sticky note: a small always-on-top window that shows one reminder (or one
+// message) in a handwriting font on yellow.  There is one note: a new reminder
+// replaces the text of the note already open.
 
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
@@ -14,21 +14,27 @@ class frmStickyNote : public Form {
 public:
     frmStickyNote();
 
-    /// Centred on the screen and on top of every window.
+    /// Centres the note on the screen and keeps it above every other window.
     void Form_Load() override;
-    /// The note fills the window above the buttons.
+    /// The text fills the note between the line of when and the buttons.
     void Form_Resize() override;
+    // All three close the note; "Remind me again later" schedules nothing.
+    void cmdRemindLater_Click();
+    void Command1_Click();
+    void txtNote_DblClick();
 
-    Label lblNote{this, "lblNote"};
+    Label lblNote{this, "lblNote"};  ///< when the event is; hidden for a message
     TextBox txtNote{this, "txtNote"};
-    /// Closes the note: the reminder does not come back.
     CommandButton cmdRemindLater{this, "cmdRemindLater"};
     CommandButton Command1{this, "Command1"};
+
+private:
+    void placeControls(long width, long height);
 };
 
-/// The note window, created at its first use.
+/// The one sticky note, made at its first use.
 frmStickyNote& StickyNote();
-/// Forgets the note window (tests).
+/// Forgets the note (tests).
 void ResetStickyNote();
 
 }  // namespace orbidex

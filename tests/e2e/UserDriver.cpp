@@ -6,6 +6,7 @@
 //   type <name> <text>  keys typed into a text box
 //   press <name> <key>  one key ("Return") pressed in a text box
 //   shot <window> <file> [<text>]  a picture of a window, once its title holds the text
+//   grab <name> <file>  the window that holds the control saved as a PNG picture
 // Each command done is counted in "driver.log".  The program itself is unchanged.
 #include <QAbstractButton>
 #include <QAction>
@@ -63,6 +64,12 @@ bool perform(const QString& command, QObject* target, const QString& text) {
             QTimer::singleShot(0, editor, [editor] { QTest::keyClick(editor, Qt::Key_Return); });
         }
         return true;
+    }
+    if (command == QLatin1String("grab")) {
+        auto* widget = qobject_cast<QWidget*>(target);
+        if (widget == nullptr || text.isEmpty()) return false;
+        QDir().mkpath(QFileInfo(text).absolutePath());
+        return widget->window()->grab().save(text);
     }
     return false;
 }

@@ -6,6 +6,9 @@
 #include <QMenu>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextTable>
 #include <QTimer>
 #include <QTimerEvent>
 #include <QToolBar>
@@ -19,11 +22,13 @@
 #include "controls/Toolbar.h"
 #include "controls/TreeView.h"
 #include "controls/WebBrowser.h"
+#include "foundation/ProgramState.h"
 #include "qt/views/StatusBarWidget.h"
 #include "qt/views/TimerWidget.h"
 #include "qt/views/ToolbarWidget.h"
 #include "qt/views/TreeViewWidget.h"
 #include "qt/views/WebBrowserWidget.h"
+#include "screen/HtmlHeader.h"
 
 namespace orbidex {
 namespace {
@@ -138,6 +143,38 @@ TEST_F(WebBrowserWidgetTest, APageOfTheProgramIsShownAndShownAnewWhenRewritten) 
 
     web.Navigate2("http://www.example.com/");
     EXPECT_TRUE(view->browser()->toPlainText().contains(QStringLiteral("http://www.example.com/")));
+}
+
+TEST_F(WebBrowserWidgetTest, AProgramPageIsDrawnWithItsStyleAndItsLinksLeadOn) {
+    gStrDataPath = Stored("data\\");
+    WebBrowser web("web");
+    auto view = test::Shown<WebBrowserWidget>(web, QSize(600, 300));
+    const std::string page = Stored("data\\overview.htm");
+    WriteBytes(page,
+               GetHtmlHeader(" Overview -  Sat, 5-Jun-2004") +
+                   "<H3>Events for Today</h3>\r\n<TABLE border=0 width=100% valign=top bgcolor=white>\r\n"
+                   "<TR><td  valign=top width=15%>0900</td><td valign=top width=70%>See "
+                   "<a href=\"D200406.html#day20040605\">the day</a></td></tr>\r\n</table>\r\n</BODY></HTML>\r\n");
+    web.Navigate2(page);
+    QTextDocument& document = *view->browser()->document();
+
+    // The title is a heading larger than the table's text, which stands in its cells.
+    const QTextCursor title = document.find(QStringLiteral("Overview"));
+    const QTextCursor time = document.find(QStringLiteral("0900"));
+    ASSERT_FALSE(title.isNull());
+    ASSERT_FALSE(time.isNull());
+    EXPECT_GT(title.charFormat().font().pointSizeF(), time.charFormat().font().pointSizeF());
+    EXPECT_NE(time.currentTable(), nullptr);
+
+    // The link is drawn in the style's colour, and a click on it goes to the day's page.
+    const QTextCursor link = document.find(QStringLiteral("the day"));
+    ASSERT_FALSE(link.isNull());
+    EXPECT_TRUE(link.charFormat().isAnchor());
+    EXPECT_EQ(link.charFormat().foreground().color(), QColor(Qt::blue));
+    QTextCursor inside = link;
+    inside.setPosition(link.selectionStart() + 2);
+    QTest::mouseClick(view->browser()->viewport(), Qt::LeftButton, {}, view->browser()->cursorRect(inside).center());
+    EXPECT_EQ(web.LocationURL(), Stored("data\\D200406.html#day20040605"));
 }
 
 }  // namespace
