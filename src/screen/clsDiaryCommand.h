@@ -10,6 +10,7 @@
 namespace orbidex {
 
 class FlexGrid;
+struct DataObject;
 class ListItem;
 class ListView;
 class frmClientDiaryMain;
@@ -129,6 +130,21 @@ public:
     bool OpenNote(const std::string& id);
     /// Rebuilds the note list from the notes folder, after the user agrees.
     void RecreateNotes(bool keepFileNameAsTitle);
+
+    // Drops between the views, and from other programs.  Each turns timerSecond off
+    // while it changes the files.
+    /// The current event moved to `date` ("yyyymmdd") at `time` ("hhmm"), into
+    /// another month too; a reminder moves with it to the new moment.
+    void MoveSelectedEventToNewTime(const std::string& date, const std::string& time);
+    /// The list's selected task copied into the grid's current cell as an event;
+    /// the task stays.
+    void MoveSelectedTaskToEvent(ListView& list, FlexGrid& grid);
+    /// The current event copied to the task list as a task; the event stays.
+    void MoveCurrentEventToTask();
+    /// A task for each dropped file, or one of the dropped text.
+    void TaskAddFromDroppedFiles(const DataObject& data);
+    /// A note of each dropped file, or one of the dropped text.
+    void NoteAddFromDroppedFiles(const DataObject& data);
 
     // Operations that the program does not have yet.  The menu entries and tool bar
     // buttons that lead only here are disabled; the tree, whose nodes cannot be,
