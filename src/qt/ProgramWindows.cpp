@@ -13,7 +13,7 @@ void RegisterProgramWindows(QtFormRegistry& registry) {
 
     // The editing dialogs: every control is drawn at its place by the form's window.
     for (const char* dialog : {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator",
-                               "frmEditTask", "frmEditNote", "frmTemplateEdit"})
+                               "frmEditTask", "frmEditNote", "frmTemplateEdit", "frmOptions"})
         registry.Register(dialog, [](Form& form) { return new FormWindow(form); });
 }
 

@@ -134,9 +134,6 @@ void clsDiaryCommand::BookMeeting(VbDate, const std::string&) {
 void clsDiaryCommand::Search() {
     unavailable("searching");
 }
-void clsDiaryCommand::ShowOptions() {
-    unavailable("the options");
-}
 void clsDiaryCommand::ViewYear() {
     unavailable("the annual calendar");
 }

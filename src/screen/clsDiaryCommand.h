@@ -131,6 +131,10 @@ public:
     /// Rebuilds the note list from the notes folder, after the user agrees.
     void RecreateNotes(bool keepFileNameAsTitle);
 
+    /// The options dialog, on the tab of the present mode; afterwards every setting
+    /// is read again and the mode drawn anew with it.
+    void ShowOptions();
+
     // Drops between the views, and from other programs.  Each turns timerSecond off
     // while it changes the files.
     /// The current event moved to `date` ("yyyymmdd") at `time` ("hhmm"), into
@@ -151,7 +155,6 @@ public:
     // reaches them and the status bar says so.
     void BookMeeting(VbDate date, const std::string& time);
     void Search();
-    void ShowOptions();
     void ViewYear();
     void serverRefreshStaffData();
 
@@ -178,6 +181,9 @@ private:
     void selectTask(const ListItem* item);
     void selectNote(const ListItem* item);
     void timerOn(bool on);
+    /// Tasks and notes read from the new data folder, and the user told that the
+    /// files of the old one stay there.
+    void dataFolderChanged(const std::string& oldDataPath);
     void unavailable(const std::string& what);
 
     frmClientDiaryMain* form_ = nullptr;

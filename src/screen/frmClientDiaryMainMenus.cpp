@@ -18,7 +18,7 @@ namespace {
 const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
         "mnuFileImport",        "mnuFileExport",          "mnuAppPlanMeeting", "mnuTaskHeadings", "mnuNotesMenu(3)",
-        "mnuSearchQuick",       "mnuOptScrapPaper",       "mnuToolsCalendar",  "mnuViewSetup",    "mnuOptionsDisplay",
+        "mnuSearchQuick",       "mnuOptScrapPaper",       "mnuToolsCalendar",  "mnuOptionsDisplay",
         "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuBetaServerEnforce", "mnuBetaTest(0)", "mnuHelpAbout",
     };
     return names;
@@ -26,7 +26,7 @@ const std::set<std::string>& entriesWithoutOperation() {
 
 const std::set<std::string>& keysWithoutOperation() {
     static const std::set<std::string> keys = {
-        "Find", "year", "refresh", "properties", "Meeting",
+        "Find", "year", "refresh", "Meeting",
     };
     return keys;
 }
