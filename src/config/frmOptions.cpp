@@ -3,6 +3,7 @@
 #include "config/frmOptions.h"
 
 #include <initializer_list>
+#include <utility>
 
 #include "config/clsConfigDiary.h"
 #include "dialogs/EditorSupport.h"
@@ -41,6 +42,16 @@ void place(Control& control, Frame& tab, long left, long top, long width, long h
     control.Move(left, top, width, height);
 }
 
+/// A page of tick boxes, one under the other.
+void placeTicks(Frame& tab, std::initializer_list<std::pair<CheckBox*, const char*>> ticks) {
+    long top = 165;
+    for (const auto& [tick, text] : ticks) {
+        tick->Caption = text;
+        place(*tick, tab, 120, top, kTabWidth - 240);
+        top += kRowStep;
+    }
+}
+
 }  // namespace
 
 frmOptions::frmOptions() : Form("frmOptions") {
@@ -57,7 +68,11 @@ void frmOptions::placeControls() {
     for (const auto& [caption, tip] : kTabs) tabOpt.Tabs.Add(caption).ToolTipText = tip;
     for (int i = 0; i < static_cast<int>(std::size(kTabs)); ++i) frameOpt(i).Move(90, 360, kTabWidth, kTabHeight);
     placeDataFilesTab(frameOpt(0));
-    placeDisplayTab(frameOpt(1));
+    placeTicks(frameOpt(1), {{&chkShowToolbar, "Show the tool bar"},
+                             {&chkShowToolbarText, "Show the captions under the tool bar's buttons"},
+                             {&chkShowShortCut, "Show the shortcut bar"},
+                             {&chkShortCutSmallIcon, "Small icons in the shortcut bar"},
+                             {&chkShowFolders, "Show the folder tree"}});
     placeCalendarTab(frameOpt(2));
     placeHeadingsTab(frameOpt(3), cmdTaskHeadings,
                      "The columns of the task list are the keys of [TaskHeadings] in the settings file: a caption "
@@ -65,7 +80,11 @@ void frmOptions::placeControls() {
     cmdTaskHeadings.Caption = "Task Headings...";
     placeHeadingsTab(frameOpt(4), cmdNoteHeadings, "The note list shows the title of each note.");
     cmdNoteHeadings.Caption = "Note Headings...";
-    placeStaffTab(frameOpt(5));
+    placeTicks(frameOpt(5), {{&chkShowShaded, "Shade the times when the others are busy"},
+                             {&chkShowLocation, "Show where each event is"},
+                             {&chkShowDetails, "Show the text of each event"},
+                             {&chkShowTotals, "Show the totals of each user"},
+                             {&chkAlwaysRefresh, "Always read the others' diaries again from the server"}});
     placeSecurityTab(frameOpt(6));
     placeAdvancedTab(frameOpt(7));
 
@@ -115,22 +134,6 @@ void frmOptions::placeDataFilesTab(Frame& tab) {
             120, 2460, full, 600);
 }
 
-void frmOptions::placeDisplayTab(Frame& tab) {
-    const std::pair<CheckBox*, const char*> ticks[] = {
-        {&chkShowToolbar, "Show the tool bar"},
-        {&chkShowToolbarText, "Show the captions under the tool bar's buttons"},
-        {&chkShowShortCut, "Show the shortcut bar"},
-        {&chkShortCutSmallIcon, "Small icons in the shortcut bar"},
-        {&chkShowFolders, "Show the folder tree"},
-    };
-    long top = 165;
-    for (const auto& [tick, text] : ticks) {
-        tick->Caption = text;
-        place(*tick, tab, 120, top, kTabWidth - 240);
-        top += kRowStep;
-    }
-}
-
 void frmOptions::placeCalendarTab(Frame& tab) {
     // Two columns of a caption and its field.
     const auto row = [this, &tab](Control& field, const std::string& text, long column, long line) {
@@ -178,22 +181,6 @@ void frmOptions::placeHeadingsTab(Frame& tab, CommandButton& button, const std::
     place(button, tab, 120, 900, 2400, 375);
     button.Enabled = false;
     button.ToolTipText = "Not available yet";
-}
-
-void frmOptions::placeStaffTab(Frame& tab) {
-    const std::pair<CheckBox*, const char*> ticks[] = {
-        {&chkShowShaded, "Shade the times when the others are busy"},
-        {&chkShowLocation, "Show where each event is"},
-        {&chkShowDetails, "Show the text of each event"},
-        {&chkShowTotals, "Show the totals of each user"},
-        {&chkAlwaysRefresh, "Always read the others' diaries again from the server"},
-    };
-    long top = 165;
-    for (const auto& [tick, text] : ticks) {
-        tick->Caption = text;
-        place(*tick, tab, 120, top, kTabWidth - 240);
-        top += kRowStep;
-    }
 }
 
 void frmOptions::placeSecurityTab(Frame& tab) {

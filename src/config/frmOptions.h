@@ -119,10 +119,8 @@ public:
 private:
     void placeControls();
     void placeDataFilesTab(Frame& tab);
-    void placeDisplayTab(Frame& tab);
     void placeCalendarTab(Frame& tab);
     void placeHeadingsTab(Frame& tab, CommandButton& button, const std::string& text);
-    void placeStaffTab(Frame& tab);
     void placeSecurityTab(Frame& tab);
     void placeAdvancedTab(Frame& tab);
     void fillLists();

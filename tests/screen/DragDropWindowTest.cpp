@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "../diary/EventLines.h"
 #include "ProgramWindowFixture.h"
 #include "ViewTestSupport.h"
 #include "foundation/FileSystem.h"
@@ -28,11 +29,9 @@ using namespace orbidex;
 
 namespace {
 
-// A line of 15 fields, each closed by 0x1F, and its line end.
+// A line of the fields, each closed by 0x1F, and its line end.
 std::string line(const std::vector<std::string>& fields) {
-    std::string text;
-    for (const std::string& field : fields) text += field + "\x1F";
-    return text + "\r\n";
+    return test::Fields(fields) + "\r\n";
 }
 
 // Two events either side of the end of June, the first with a reminder, and a task.
