@@ -2,7 +2,8 @@
 // The options dialog: the two data paths and the settings the user changes, on the
 // tabs "Data Files", "Display", "Calendar", "Task", "Notes", "Staff", "Security" and
 // "Advanced".  OK checks the paths and writes every control to its key of the
-// settings file; Cancel writes nothing.  The caller reads the settings again after.
+// settings file; Cancel, or closing the window, writes nothing.  The caller reads the
+// settings again after.
 
 #include <string>
 
@@ -28,7 +29,6 @@ class frmOptions : public Form {
 public:
     frmOptions();
 
-    /// Closing the window without OK writes nothing, as Cancel.
     void Form_Load() override;
     /// Shows the tab of that caption, or "Data Files" for a tab that local mode closes.
     void OpenOnTab(const std::string& caption);
