@@ -6,6 +6,7 @@
 #include <string>
 
 #include "MainScreenFixture.h"
+#include "controls/DataObject.h"
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 #include "pim/cTask.h"
@@ -129,4 +130,20 @@ TEST_F(DragDropTest, TextFromAnotherProgramBecomesAnEventATaskOrANote) {
     Form().lvCat.Tag = "CONTACT";
     dropText(Form().lvCat, "Fred");
     EXPECT_EQ(platform_.MessageTexts().back(), "Drag Drop not setup for this data type yet");
+}
+
+TEST_F(DragDropTest, FilesFromAnotherProgramDroppedOnTheTaskListBecomeATaskEach) {
+    glbScreen.SwitchMode("TASK");
+    DataObject data;
+    data.Files = {Stored("Quotes\\venue.doc"), Stored("Quotes\\Summer party.xls")};
+    data.Text = "venue.doc";  // the text beside the files makes no task of its own
+    Form().lvCat.UserOLEDragDrop(data);
+    const std::string folder = Stored("Quotes") + "\\";
+    EXPECT_EQ(Data("D_tasks.dat"), kTask +
+                                       closed("N200406050001|20040605||0930|60|||" + data.Files[0] +
+                                              "|||||||Edit venue.doc in " + folder + "|\r\n") +
+                                       closed("N200406050002|20040605||0930|60|||" + data.Files[1] +
+                                              "|||||||Edit Summer party.xls in " + folder + "|\r\n"));
+    EXPECT_EQ(Form().lvCat.ListItems.Count(), 3);
+    EXPECT_EQ(glbScreen.Mode(), "TASK");
 }
