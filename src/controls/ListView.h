@@ -49,6 +49,8 @@ public:
     ListItem* SelectedItem() const { return selected_; }
     /// Selects `item` alone; null clears the selection.
     void SetSelectedItem(ListItem* item);
+    /// The row under the mouse at the user's last press or move over the list, or null.
+    ListItem* MouseItem() { return ListItems.Item(mouseIndex_); }
     /// The first row whose text equals `text` without regard to case, or null.
     ListItem* FindItem(const std::string& text);
     /// The text of column `column` of a row: 0 its text, k its sub-item k.
@@ -68,6 +70,9 @@ public:
     void UserCheckItem(ListItem& item, bool checked);
     /// A click on the heading of column `index` (from 1): ColumnClick.
     void UserClickColumn(long index);
+    /// The mouse is over the row `index` (from 1; 0 for none), before the event of
+    /// the press or move is raised.
+    void UserMouseAt(long index) { mouseIndex_ = index; }
 
     /// A counter that moves when rows or columns are added, removed or reordered
     /// (views compare it).
@@ -88,6 +93,7 @@ private:
     bool before(const ListItem& a, const ListItem& b) const;
 
     ListItem* selected_ = nullptr;
+    long mouseIndex_ = 0;
     unsigned long structureVersion_ = 0;
 };
 

@@ -98,6 +98,13 @@ public:
     /// it.  Returns a code above 32 on success, or the failure code (2 file not
     /// found, 3 path not found, 5 access denied, 31 no association).
     virtual int OpenDocument(const std::string& fileOrUrl) = 0;
+    /// A folder the user picks (stored form, without a trailing separator), starting
+    /// in `startFolder` when it is not ""; "" when the user cancels.
+    virtual std::string PickFolder(const std::string& title, const std::string& startFolder) {
+        (void)title;
+        (void)startFolder;
+        return "";
+    }
 
     // Forms
     virtual void ShowModal(Form& form) = 0;

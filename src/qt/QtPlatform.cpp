@@ -13,6 +13,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QEventLoop>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QFontMetrics>
 #include <QGridLayout>
@@ -226,6 +227,12 @@ bool QtPlatform::StartProcess(const std::string& commandLine) {
     if (args.isEmpty()) return false;
     const QString program = args.takeFirst();
     return QProcess::startDetached(program, args);
+}
+
+std::string QtPlatform::PickFolder(const std::string& title, const std::string& startFolder) {
+    const QString start = startFolder.empty() ? QString() : QString::fromStdString(ToNativePath(startFolder));
+    const QString picked = QFileDialog::getExistingDirectory(QApplication::activeWindow(), titleOr(title), start);
+    return picked.isEmpty() ? "" : ToStoredPath(picked.toStdString());
 }
 
 int QtPlatform::OpenDocument(const std::string& fileOrUrl) {

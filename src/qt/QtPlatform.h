@@ -37,6 +37,7 @@ public:
     bool RunAndWait(const std::string& commandLine) override;
     bool StartProcess(const std::string& commandLine) override;
     int OpenDocument(const std::string& fileOrUrl) override;
+    std::string PickFolder(const std::string& title, const std::string& startFolder) override;
     void ShowModal(Form& form) override;
     void ShowModeless(Form& form) override;
     void HideForm(Form& form) override;

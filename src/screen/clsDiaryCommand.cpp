@@ -131,9 +131,6 @@ void clsDiaryCommand::unavailable(const std::string& what) {
 void clsDiaryCommand::BookMeeting(VbDate, const std::string&) {
     unavailable("booking a meeting");
 }
-void clsDiaryCommand::ShowOptions() {
-    unavailable("the options");
-}
 void clsDiaryCommand::ViewYear() {
     unavailable("the annual calendar");
 }

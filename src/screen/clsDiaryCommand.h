@@ -10,6 +10,7 @@
 namespace orbidex {
 
 class FlexGrid;
+struct DataObject;
 class ListItem;
 class ListView;
 class frmClientDiaryMain;
@@ -140,11 +141,29 @@ public:
     /// Rebuilds the note list from the notes folder, after the user agrees.
     void RecreateNotes(bool keepFileNameAsTitle);
 
+    /// The options dialog, on the tab of the present mode; afterwards every setting
+    /// is read again and the mode drawn anew with it.
+    void ShowOptions();
+
+    // Drops between the views, and from other programs.  Each turns timerSecond off
+    // while it changes the files.
+    /// The current event moved to `date` ("yyyymmdd") at `time` ("hhmm"), into
+    /// another month too; a reminder moves with it to the new moment.
+    void MoveSelectedEventToNewTime(const std::string& date, const std::string& time);
+    /// The list's selected task copied into the grid's current cell as an event;
+    /// the task stays.
+    void MoveSelectedTaskToEvent(ListView& list, FlexGrid& grid);
+    /// The current event copied to the task list as a task; the event stays.
+    void MoveCurrentEventToTask();
+    /// A task for each dropped file, or one of the dropped text.
+    void TaskAddFromDroppedFiles(const DataObject& data);
+    /// A note of each dropped file, or one of the dropped text.
+    void NoteAddFromDroppedFiles(const DataObject& data);
+
     // Operations that the program does not have yet.  The menu entries and tool bar
     // buttons that lead only here are disabled; the tree, whose nodes cannot be,
     // reaches them and the status bar says so.
     void BookMeeting(VbDate date, const std::string& time);
-    void ShowOptions();
     void ViewYear();
     void serverRefreshStaffData();
 
@@ -171,6 +190,9 @@ private:
     void selectTask(const ListItem* item);
     void selectNote(const ListItem* item);
     void timerOn(bool on);
+    /// Tasks and notes read from the new data folder, and the user told that the
+    /// files of the old one stay there.
+    void dataFolderChanged(const std::string& oldDataPath);
     void unavailable(const std::string& what);
 
     frmClientDiaryMain* form_ = nullptr;

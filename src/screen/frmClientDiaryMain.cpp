@@ -45,6 +45,7 @@ frmClientDiaryMain::frmClientDiaryMain() : Form("frmClientDiaryMain") {
     Move(0, 0, 9600, 7200);  // the design size; the settings give the real place
     placeControls();
     bindControls();
+    bindDrops();
     bindMenus();
     disableEntriesWithoutOperation();
 }

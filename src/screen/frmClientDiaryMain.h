@@ -74,6 +74,27 @@ public:
     /// Sorts the list by the column, turning the order round at a second click.
     void lvCat_ColumnClick(ColumnHeader& column);
 
+    // Drags and drops.  An event is dragged out of the grid, a task out of the task
+    // list beside the calendar; the grid and the task and note lists take files and
+    // text from other programs.
+    void gridDays_MouseDown(int button, int shift, long x, long y);
+    void gridDays_MouseMove(int button, int shift, long x, long y);
+    /// An event dragged from the grid moves to the cell; a task from the list is
+    /// copied into it as an event.
+    void gridDays_DragDrop(Control& source, long x, long y);
+    /// Text dropped on a cell becomes an event there.
+    void gridDays_OLEDragDrop(const DataObject& data);
+    /// The status bar names the day an event dragged from the grid would move to.
+    void MonthView1_DragOver(Control& source, VbDate day);
+    /// An event dragged from the grid moves to the day, at its time.
+    void MonthView1_DragDrop(Control& source, VbDate day);
+    void lvCat_MouseDown(int button, int shift, long x, long y);
+    void lvCat_MouseMove(int button, int shift, long x, long y);
+    /// An event dragged from the grid is copied to the task list.
+    void lvCat_DragDrop(Control& source, long x, long y);
+    /// Files or text dropped on the task list or the note list become tasks or notes.
+    void lvCat_OLEDragDrop(const DataObject& data);
+
     // The splitters: imgSplitter moves the border between the calendar column and the
     // main area, imgVert the border between the events and the browser pane under them.
     void imgSplitter_MouseDown(int button, int shift, long x, long y);
@@ -230,7 +251,20 @@ private:
     void bindMenus();
     void bindViewMenus();
     void disableEntriesWithoutOperation();
+    void bindDrops();
+    /// The drag starts once the mouse has moved far enough with the left button down.
+    void dragWhenMoved(Control& control, int button, long x, long y);
+    /// Makes the cell under the pointer the grid's current one; false when it is no
+    /// time slot of a day.
+    bool currentCellFromPointer();
+    /// The day of the grid's current column: the calendar's in the day view.
+    VbDate currentCellDay();
+    /// The calendar drawn again for its date, with the months it shows loaded.
+    void redrawAfterDrop();
 
+    std::string dragText_;  ///< not "" while an event or a task is dragged out
+    long pressX_ = 0;       ///< where the drag's button went down, in twips
+    long pressY_ = 0;
     bool movingSplitter_ = false;
     bool movingVert_ = false;
     long grabbedAt_ = 0;      ///< where on the splitter the mouse took hold of it

@@ -18,7 +18,7 @@ namespace {
 const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
         "mnuFileImport",        "mnuFileExport",          "mnuAppPlanMeeting", "mnuTaskHeadings", "mnuNotesMenu(3)",
-        "mnuOptScrapPaper",     "mnuToolsCalendar",       "mnuViewSetup",      "mnuOptionsDisplay",
+        "mnuOptScrapPaper",     "mnuToolsCalendar",       "mnuOptionsDisplay",
         "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuBetaServerEnforce", "mnuBetaTest(0)", "mnuHelpAbout",
     };
     return names;
@@ -26,7 +26,7 @@ const std::set<std::string>& entriesWithoutOperation() {
 
 const std::set<std::string>& keysWithoutOperation() {
     static const std::set<std::string> keys = {
-        "year", "refresh", "properties", "Meeting",
+        "year", "refresh", "Meeting",
     };
     return keys;
 }

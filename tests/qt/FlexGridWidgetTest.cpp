@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractScrollArea>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTest>
 
@@ -119,6 +120,21 @@ TEST_F(FlexGridWidgetTest, ADropOfAControlNamesTheCellUnderThePointer) {
     EXPECT_EQ(from, "lvCat");
     EXPECT_EQ(dropRow, 7);
     EXPECT_EQ(dropCol, 4);
+
+    // Text from another program names its cell too.
+    grid.OLEDropMode = vbOLEDropManual;
+    std::string text;
+    grid.onOLEDragDrop = [&](const DataObject& data) {
+        text = data.Text;
+        dropRow = grid.MouseRow;
+        dropCol = grid.MouseCol;
+    };
+    QMimeData mime;
+    mime.setText(QStringLiteral("Lunch"));
+    EXPECT_TRUE(test::DragAndDrop(viewport(), centre(5, 3), mime));
+    EXPECT_EQ(text, "Lunch");
+    EXPECT_EQ(dropRow, 5);
+    EXPECT_EQ(dropCol, 3);
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTableView>
 #include <QTest>
@@ -29,6 +30,7 @@
 #include "controls/MonthView.h"
 #include "controls/OptionButton.h"
 #include "controls/RichTextBox.h"
+#include "controls/ScrollBar.h"
 #include "controls/TabStrip.h"
 #include "controls/TextBox.h"
 #include "foundation/VbDate.h"
@@ -41,6 +43,7 @@
 #include "qt/views/MonthViewWidget.h"
 #include "qt/views/OptionButtonWidget.h"
 #include "qt/views/RichTextBoxWidget.h"
+#include "qt/views/ScrollBarWidget.h"
 #include "qt/views/TabStripWidget.h"
 #include "qt/views/TextBoxWidget.h"
 #include "qt/views/ViewSupport.h"
@@ -253,6 +256,23 @@ TEST(DateWidgetsTest, APickedDayKeepsTheTimeAndAClickedOrDroppedOnDayIsNamed) {
     month.MonthColumns = 2;
     ASSERT_EQ(calendar->calendars().size(), 2u);
     EXPECT_EQ(calendar->calendars()[1]->monthShown(), 7);
+}
+
+TEST(ScrollBarWidgetTest, TheUsersMovesReachTheModelWithinItsRange) {
+    ScrollBar bar("VScroll1");
+    bar.Vertical = false;
+    bar.Min = 100;
+    bar.Max = 1000;
+    bar.Value = 255;
+    auto view = Shown<ScrollBarWidget>(bar);
+    EXPECT_EQ(view->scrollBar()->orientation(), Qt::Horizontal);
+    EXPECT_EQ(view->scrollBar()->value(), 255);
+    long changed = 0;
+    bar.onChange = [&] { changed = bar.Value; };
+    view->scrollBar()->setValue(300);
+    EXPECT_EQ(changed, 300);
+    bar.UserScroll(5000);
+    EXPECT_EQ(bar.Value, 1000) << "kept within Max";
 }
 
 TEST(TabStripWidgetTest, AClickOnATabSelectsItInTheModel) {

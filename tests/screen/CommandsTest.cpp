@@ -70,7 +70,8 @@ TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
          {&Form().mnuFilePrint, &Form().mnuFileExit, &Form().mnuViewMode[2], &Form().mnuViewRefresh,
           &Form().mnuBetaTest[3], &Form().mnuHelpContents, &Form().mnuAppAdd, &Form().mnuAppRecurring,
           &Form().mnuPopupGridAdd, &Form().mnuTaskMenu[0], &Form().mnuNotesMenu[5], &Form().mnuBetaReindexTask,
-          &Form().mnuPingServer, &Form().mnuServerLogoff, &Form().mnuSearchQuick})
+          &Form().mnuPingServer, &Form().mnuServerLogoff, &Form().mnuSearchQuick,
+          &Form().mnuViewSetup})
         EXPECT_TRUE(entry->Enabled) << entry->Name();
 
     // A click on a row asks to enable the notes' entries; the field picker stays off.
@@ -82,6 +83,7 @@ TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
     Toolbar& bar = Form().Toolbar1;
     EXPECT_TRUE(bar.Buttons("Find").Enabled);
     EXPECT_TRUE(bar.Buttons("print").Enabled);
+    EXPECT_TRUE(bar.Buttons("properties").Enabled);
     EXPECT_TRUE(bar.Buttons("new").ButtonMenus(2)->Enabled);
     for (const char* mode : {"HOME", "CALENDAR", "TASK", "NOTE", "MESSAGE", "STAFF"}) {
         glbScreen.SwitchMode(mode);

@@ -50,6 +50,18 @@ std::string ScriptedPlatform::InputBox(const std::string& prompt, const std::str
     return answer;
 }
 
+std::string ScriptedPlatform::PickFolder(const std::string& title, const std::string& startFolder) {
+    std::string answer;
+    if (!folderAnswers_.empty()) {
+        answer = folderAnswers_.front();
+        folderAnswers_.pop_front();
+    } else {
+        problem("Unanswered folder picker: [" + title + "] from " + startFolder);
+    }
+    transcript_.push_back({DialogRecord::Folder, title, startFolder, 0, answer});
+    return answer;
+}
+
 void ScriptedPlatform::DoEvents() {
     ++doEventsCount_;
     // A wait that never ends would hang the test: stop it with a problem instead.

@@ -14,7 +14,7 @@
 namespace orbidex::test {
 
 struct DialogRecord {
-    enum Kind { Message, Input } kind = Message;
+    enum Kind { Message, Input, Folder } kind = Message;
     std::string title;
     std::string text;
     int buttons = 0;
@@ -37,6 +37,8 @@ public:
     // is reported as a problem (OK-only messages need none).
     void QueueMsgBoxAnswer(int answer) { msgAnswers_.push_back(answer); }
     void QueueInputAnswer(const std::string& text) { inputAnswers_.push_back(text); }
+    /// The folder the next folder picker gives ("" for Cancel).
+    void QueueFolderAnswer(const std::string& folder) { folderAnswers_.push_back(folder); }
     const std::vector<DialogRecord>& Transcript() const { return transcript_; }
     /// The texts of all message boxes shown so far.
     std::vector<std::string> MessageTexts() const;
@@ -96,6 +98,7 @@ public:
     bool RunAndWait(const std::string& commandLine) override;
     bool StartProcess(const std::string& commandLine) override;
     int OpenDocument(const std::string& fileOrUrl) override;
+    std::string PickFolder(const std::string& title, const std::string& startFolder) override;
     void ShowModal(Form& form) override;
     void ShowModeless(Form& form) override;
     void HideForm(Form&) override {}
@@ -111,6 +114,7 @@ private:
     double doEventsTick_ = 0;
     std::deque<int> msgAnswers_;
     std::deque<std::string> inputAnswers_;
+    std::deque<std::string> folderAnswers_;
     std::vector<DialogRecord> transcript_;
     std::map<std::string, std::deque<std::function<void(Form&)>>> formScripts_;
     std::vector<std::string> formsShown_;

@@ -262,6 +262,7 @@ bool ControlWidget::dragOrDrop(QWidget* part, QEvent* event) {
         dropped.Text = FromWidgetText(mime->text());
     else if (!addresses.isEmpty())
         dropped.Text = FromQString(addresses.join(QLatin1Char('\n')));
+    dataDroppedAt(pos);
     model_->UserOLEDragDrop(dropped);
     return true;
 }

@@ -51,6 +51,8 @@ protected:
     /// A drop of another control at `pos` (pixels within this view).
     virtual void controlDropped(Control& source, QPoint pos);
     virtual void controlDraggedOver(Control& source, QPoint pos);
+    /// Files or text from another program are about to be dropped at `pos`.
+    virtual void dataDroppedAt(QPoint pos) { (void)pos; }
 
     /// Makes `inner` fill this widget.  Mouse events and drops are taken from
     /// `mousePart` and keys and focus from `keyPart` (both `inner` when null): one

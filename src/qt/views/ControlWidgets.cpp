@@ -12,6 +12,7 @@
 #include "controls/MonthView.h"
 #include "controls/OptionButton.h"
 #include "controls/RichTextBox.h"
+#include "controls/ScrollBar.h"
 #include "controls/StatusBar.h"
 #include "controls/TabStrip.h"
 #include "controls/TextBox.h"
@@ -31,6 +32,7 @@
 #include "qt/views/MonthViewWidget.h"
 #include "qt/views/OptionButtonWidget.h"
 #include "qt/views/RichTextBoxWidget.h"
+#include "qt/views/ScrollBarWidget.h"
 #include "qt/views/StatusBarWidget.h"
 #include "qt/views/TabStripWidget.h"
 #include "qt/views/TextBoxWidget.h"
@@ -63,7 +65,7 @@ ControlWidget* CreateControlWidget(Control& control, QWidget* parent) {
         viewIf<DatePicker, DatePickerWidget>,   viewIf<MonthView, MonthViewWidget>,
         viewIf<TreeView, TreeViewWidget>,       viewIf<Toolbar, ToolbarWidget>,
         viewIf<StatusBar, StatusBarWidget>,     viewIf<Timer, TimerWidget>,
-        viewIf<WebBrowser, WebBrowserWidget>,
+        viewIf<WebBrowser, WebBrowserWidget>,   viewIf<ScrollBar, ScrollBarWidget>,
     };
     for (Factory factory : factories)
         if (ControlWidget* view = factory(control, parent)) return view;

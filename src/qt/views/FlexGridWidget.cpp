@@ -378,15 +378,20 @@ bool FlexGridWidget::keyPressed(QKeyEvent* event) {
     return true;
 }
 
-void FlexGridWidget::controlDropped(Control& source, QPoint pos) {
+void FlexGridWidget::pointerAt(QPoint pos) {
     const auto [row, col] = cellAt(area_->viewport()->mapFrom(this, pos));
     grid_.UserMouseAt(row, col);
+}
+
+void FlexGridWidget::controlDropped(Control& source, QPoint pos) {
+    pointerAt(pos);
     ControlWidget::controlDropped(source, pos);
 }
 
+void FlexGridWidget::dataDroppedAt(QPoint pos) { pointerAt(pos); }
+
 void FlexGridWidget::controlDraggedOver(Control& source, QPoint pos) {
-    const auto [row, col] = cellAt(area_->viewport()->mapFrom(this, pos));
-    grid_.UserMouseAt(row, col);
+    pointerAt(pos);
     ControlWidget::controlDraggedOver(source, pos);
 }
 

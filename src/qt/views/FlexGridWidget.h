@@ -36,9 +36,12 @@ protected:
     void syncFromModel() override;
     void controlDropped(Control& source, QPoint pos) override;
     void controlDraggedOver(Control& source, QPoint pos) override;
+    void dataDroppedAt(QPoint pos) override;
 
 private:
     friend class GridArea;
+    /// Tells the model the cell under `pos` (a point of this view).
+    void pointerAt(QPoint pos);
     void layoutGrid();
     void updateScrollBars();
     int rowTop(long row) const;

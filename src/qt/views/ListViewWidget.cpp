@@ -217,6 +217,12 @@ void ListViewWidget::syncFromModel() {
 }
 
 bool ListViewWidget::eventFilter(QObject* watched, QEvent* event) {
+    const bool pressOrMove = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseMove;
+    if (pressOrMove && view_ != nullptr && watched == view_->viewport() && model() != nullptr) {
+        const QModelIndex index = view_->indexAt(static_cast<QMouseEvent*>(event)->position().toPoint());
+        const ListItem* item = index.isValid() ? items_->itemAt(index.row()) : nullptr;
+        list_.UserMouseAt(item != nullptr ? item->Index() : 0);
+    }
     if (event->type() != QEvent::MouseButtonDblClick || view_ == nullptr || watched != view_->viewport() || syncing() ||
         model() == nullptr)
         return ControlWidget::eventFilter(watched, event);
