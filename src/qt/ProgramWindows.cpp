@@ -12,8 +12,9 @@ void RegisterProgramWindows(QtFormRegistry& registry) {
                       [](Form& form) { return new MainWindow(static_cast<frmClientDiaryMain&>(form)); });
 
     // The editing dialogs: every control is drawn at its place by the form's window.
-    for (const char* dialog : {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator",
-                               "frmEditTask", "frmEditNote", "frmTemplateEdit"})
+    for (const char* dialog :
+         {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator", "frmEditTask", "frmEditNote",
+          "frmTemplateEdit", "frmTemplateList", "frmListAndDetailsSubForm", "frmClipboard"})
         registry.Register(dialog, [](Form& form) { return new FormWindow(form); });
 }
 

@@ -74,6 +74,17 @@ public:
     void ConvertListViewToHtml(ListView& list, const std::string& file);
     void ConvertGridToHtml(FlexGrid& grid, const std::string& file);
 
+    // Importing and exporting events, and the scratch pad
+    /// A comma-separated file or a file of event lines, picked by the user, into the diary.
+    void ImportAppointments();
+    /// After the user agrees, the diary as HTML pages, one per month; the page of the
+    /// month on screen then opens in the browser pane.
+    void ExportAppointments();
+    /// The diary as HTML pages; the page of the month on screen opens in the desktop's browser.
+    void ViewEventsInBrowser();
+    /// Opens the scratch pad beside the window, or brings it to the front.
+    void ShowScratchPad();
+
     // Entries of the tools, beta and help menus
     /// Starts a companion program that stands beside this one.
     void StartCompanionTool(const std::string& exeName);
@@ -162,6 +173,8 @@ private:
     void selectTask(const ListItem* item);
     void selectNote(const ListItem* item);
     void timerOn(bool on);
+    /// Exports the diary; the page of the month on screen, or of the last month, or "".
+    std::string exportPages();
     void unavailable(const std::string& what);
 
     frmClientDiaryMain* form_ = nullptr;
