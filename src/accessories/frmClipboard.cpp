@@ -141,8 +141,8 @@ void frmClipboard::LoadScratchTabs(const std::string& iniPath) {
     if (FileExists(iniPath) && ReadWholeFile(iniPath, bytes)) tabs_ = ReadScratchTabs(bytes);
     if (tabs_.empty()) tabs_ = DefaultScratchTabs(GetFolderOfPath(iniPath));
     // A tab the list names without a file gets a file of its own.
-    for (ScratchTab& tab : tabs_)
-        if (tab.file.empty()) tab.file = newTabFile();
+    for (size_t i = 0; i < tabs_.size(); ++i)
+        if (tabs_[i].file.empty()) tabs_[i].file = newTabFile(static_cast<long>(i) + 1);
 }
 
 void frmClipboard::SaveScratchTabs(const std::string& iniPath) {
@@ -208,9 +208,9 @@ void frmClipboard::txtClip_OLEDragDrop(const DataObject& data) {
     DropIntoText(txtClip, data);
 }
 
-std::string frmClipboard::newTabFile() const {
+std::string frmClipboard::newTabFile(long number) const {
     const std::string folder = GetFolderOfPath(IniPath());
-    for (long number = static_cast<long>(tabs_.size());; ++number) {
+    for (;; ++number) {
         const std::string file = folder + "~tab" + CStr(number) + ".tmp";
         const bool taken = FileExists(file) || std::any_of(tabs_.begin(), tabs_.end(), [&](const ScratchTab& tab) {
                                return UCase(tab.file) == UCase(file);
@@ -222,7 +222,7 @@ std::string frmClipboard::newTabFile() const {
 void frmClipboard::popupTabsAdd_Click() {
     const std::string name = tabName(platform().InputBox("Enter the name of the Tab", "Rename Tab", ""));
     if (name.empty()) return;
-    tabs_.push_back({name, newTabFile(), "FREE"});
+    tabs_.push_back({name, newTabFile(static_cast<long>(tabs_.size()) + 1), "FREE"});
     SaveScratchTabs(IniPath());
     tabClip.Tabs.Add(name).Selected = true;
 }

@@ -90,8 +90,9 @@ private:
     bool saveShownTab();
     /// Shows the text of the tab at `index` (from 0) in its mode's colour.
     void showTab(long index);
-    /// A file for a new tab: "~tab" + a number no tab uses and no file has.
-    std::string newTabFile() const;
+    /// A file for the tab of that number (from 1): "~tab" + the number, or the next
+    /// one that no tab uses and no file has.
+    std::string newTabFile(long number) const;
 
     std::vector<ScratchTab> tabs_;
     long shown_ = -1;       ///< the tab whose text txtClip holds, from 0; -1 for none
