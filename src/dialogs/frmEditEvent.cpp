@@ -357,7 +357,8 @@ void frmEditEvent::cmdTemplate_Click() {
                                                 {"Length     ", fieldText, 550, 10, 315},
                                                 {"Category ", fieldText, 1440, 140, 315},
                                                 {"Details  ", fieldRichText, 1440, 5550, 2400}};
-    constexpr long kLeft = 500, kWidth = 5000, kRowStep = 3 * 120;
+    // The layout of the template's fields: left of the controls, width, row step.
+    constexpr long kTemplateLeft = 500, kTemplateWidth = 5000, kTemplateRowStep = 3 * 120;
 
     ListAndDetailsDefinition& definition = gListAndDetails;
     definition = ListAndDetailsDefinition();
@@ -369,9 +370,10 @@ void frmEditEvent::cmdTemplate_Click() {
     long row = 0;
     for (size_t i = 0; i < std::size(kFields); ++i) {
         ListAndDetailsField& field = definition.fields[i];
-        field = {kFields[i].caption, kFields[i].fieldType, kFields[i].maxLength, kLeft, 120 + row * kRowStep, kWidth,
-                 kFields[i].height,  kFields[i].listWidth};
-        if (kFields[i].fieldType != fieldKey) ++row;
+        const TemplateField& shown = kFields[i];
+        field = {shown.caption, shown.fieldType, shown.maxLength, kTemplateLeft, 120 + row * kTemplateRowStep,
+                 kTemplateWidth, shown.height, shown.listWidth};
+        if (shown.fieldType != fieldKey) ++row;
     }
 
     // The list keeps its own changes: the event's answer stays as it was.

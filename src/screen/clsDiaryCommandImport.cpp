@@ -51,6 +51,8 @@ void clsDiaryCommand::ExportAppointments() {
     if (page.empty() || form_ == nullptr) return;
     form_->mnuViewBrowser.Checked = true;
     form_->web.Visible = true;
+    // The page takes most of the main area, unless the user has sized the pane.
+    if (glbScreen.BrowserHeight() == 0) glbScreen.SetBrowserHeight(form_->ScaleHeight * 2 / 3);
     form_->web.Navigate2(page);
     glbScreen.resize();
 }
