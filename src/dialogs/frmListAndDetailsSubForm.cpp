@@ -66,6 +66,7 @@ void frmListAndDetailsSubForm::BuildForm() {
     lstList.ColumnHeaders.Clear();
     detailsLeft_ = kListWidth + kMargin;
     long right = detailsLeft_, bottom = 0;
+    filling_ = true;
     for (int i = 0; i < fieldCount(); ++i) {
         const ListAndDetailsField& definition = field(i);
         lstList.ColumnHeaders.Add(definition.caption, definition.listWidth);
@@ -77,6 +78,7 @@ void frmListAndDetailsSubForm::BuildForm() {
         right = std::max(right, detailsLeft_ + definition.left + kLabelColumn + definition.width);
         bottom = std::max(bottom, definition.top + definition.height);
     }
+    filling_ = false;
     Width = right + 2 * kMargin;
     Height = bottom + kButtonRow + 3 * kMargin;
     Form_Resize();

@@ -87,6 +87,16 @@ TEST_F(TemplatesTest, EventTemplatesAreAddedEditedAndKeptByTheListAndDetailsForm
     TemplatesFromACancelledEvent();
     EXPECT_EQ(ReadBytes(Data("template_event.dat")),
               Record({"X200406050002", "Team lunch", "30", "Social", "Bring card\r\nRoom 2"}));
+
+    // Opened and closed without a change: nothing to update, nothing asked.
+    OnTemplates([](frmListAndDetailsSubForm& form) {
+        EXPECT_EQ(form.txt(1).Text(), "Team lunch");
+        EXPECT_FALSE(form.cmdUpdate.Enabled());
+        form.UserClose();
+    });
+    platform_.ClearTranscript();
+    TemplatesFromACancelledEvent();
+    EXPECT_TRUE(platform_.Transcript().empty());
 }
 
 TEST_F(TemplatesTest, APhraseListIsEditedAndOnlyOKWritesIt) {
