@@ -15,7 +15,9 @@ namespace orbidex {
 
 namespace {
 
-constexpr long kListWidth = 4200;
+constexpr long kMinListWidth = 4200;
+constexpr long kCaptionCharWidth = 105;  ///< twips of one character of a column's caption
+constexpr long kCaptionPadding = 240;
 constexpr long kLabelColumn = 1000;
 constexpr long kButtonRow = 480;
 constexpr long kMargin = 120;
@@ -33,9 +35,16 @@ std::string columnOf(const ListItem& row, int i) {
     return i == 0 ? row.Text() : row.SubItems(i);
 }
 
+// The width of a field's column: none for a hidden one, otherwise at least room for
+// its caption, so that every heading reads whole.
+long columnWidth(const ListAndDetailsField& definition) {
+    if (definition.listWidth <= 0) return 0;
+    return std::max(definition.listWidth, Len(Trim(definition.caption)) * kCaptionCharWidth + kCaptionPadding);
+}
+
 }  // namespace
 
-frmListAndDetailsSubForm::frmListAndDetailsSubForm() : Form("frmListAndDetailsSubForm") {
+frmListAndDetailsSubForm::frmListAndDetailsSubForm() : Form("frmListAndDetailsSubForm"), listWidth_(kMinListWidth) {
     lstList.FullRowSelect = true;
     lstList.HideSelection = false;
     lstList.LastColumnFills = true;
@@ -64,12 +73,18 @@ void frmListAndDetailsSubForm::BuildForm() {
     lbl_fname.Caption = gListAndDetails.fileName;
     richTextBox.Visible = false;
     lstList.ColumnHeaders.Clear();
-    detailsLeft_ = kListWidth + kMargin;
+    // The list is as wide as its columns, and the fields stand to its right.
+    long columns = 2 * kMargin;
+    for (int i = 0; i < fieldCount(); ++i) {
+        lstList.ColumnHeaders.Add(field(i).caption, columnWidth(field(i)));
+        columns += columnWidth(field(i));
+    }
+    listWidth_ = std::max(kMinListWidth, columns);
+    detailsLeft_ = listWidth_ + kMargin;
     long right = detailsLeft_, bottom = 0;
     filling_ = true;
     for (int i = 0; i < fieldCount(); ++i) {
         const ListAndDetailsField& definition = field(i);
-        lstList.ColumnHeaders.Add(definition.caption, definition.listWidth);
         if (!buildField(i)) continue;
         Label& caption = lbl(i);
         caption.Caption = definition.caption;
@@ -136,6 +151,7 @@ void frmListAndDetailsSubForm::LoadFileToListBox() {
         glbLog.log("LoadFileToListBox : " + file + " is not there yet - an empty list", 3);
     } else {
         LoadRecordFileToListBox(lstList, file, gListAndDetails.delimiter, kRecordDelimiter);
+        widenColumns();
     }
     if (lstList.ListItems.Count() == 0) return;
     ListItem& first = lstList.ListItems(1);
@@ -143,10 +159,15 @@ void frmListAndDetailsSubForm::LoadFileToListBox() {
     lstList_ItemClick(first);
 }
 
+void frmListAndDetailsSubForm::widenColumns() {
+    for (int i = 0; i < fieldCount() && i < lstList.ColumnHeaders.Count(); ++i)
+        lstList.ColumnHeaders(i + 1).Width = columnWidth(field(i));
+}
+
 void frmListAndDetailsSubForm::Form_Resize() {
     const long height = ScaleHeight > 0 ? static_cast<long>(ScaleHeight) : static_cast<long>(Height);
     const long buttonsTop = std::max(kMargin, height - kButtonRow);
-    lstList.Move(kMargin, kMargin, kListWidth - kMargin, std::max(0L, buttonsTop - 2 * kMargin));
+    lstList.Move(kMargin, kMargin, listWidth_ - kMargin, std::max(0L, buttonsTop - 2 * kMargin));
     long left = kMargin;
     for (CommandButton* button : {&cmdAdd, &cmdDelete, &cmdUpdate, &cmdSave, &cmdOK}) {
         button->Move(left, buttonsTop, 1000, 375);

@@ -61,6 +61,8 @@ public:
 private:
     /// Makes the control of field `i` at its place; false for a type it has none of.
     bool buildField(int i);
+    /// Gives each column its width: none for a hidden field, at least room for its caption.
+    void widenColumns();
     std::string fieldValue(int i);
     void showFieldValue(int i, const std::string& value);
     void controlsFromRow(const ListItem& row);
@@ -70,6 +72,7 @@ private:
 
     ListItem* shownRow_ = nullptr;  ///< the row whose values the controls hold
     bool filling_ = false;          ///< the program, not the user, fills the controls
+    long listWidth_;
     long detailsLeft_ = 0;
 };
 
