@@ -1,11 +1,13 @@
 #include "dialogs/frmEditEvent.h"
 
+#include <iterator>
 #include <utility>
 
 #include "config/clsConfigDiary.h"
 #include "dialogs/DialogDates.h"
 #include "dialogs/EditorSupport.h"
 #include "dialogs/LaunchDocument.h"
+#include "dialogs/frmListAndDetailsSubForm.h"
 #include "diary/cDiaryRecord.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/ProgramState.h"
@@ -13,6 +15,7 @@
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
+#include "pim/ListAndDetails.h"
 #include "platform/Platform.h"
 
 namespace orbidex {
@@ -87,8 +90,6 @@ void frmEditEvent::placeControls() {
     cmdDetails.Move(2270, 3090, 930, 375);
     cmdTemplate.Caption = "Templates...";
     cmdTemplate.Move(3240, 3090, 960, 375);
-    // The list of event templates is not part of the program yet.
-    cmdTemplate.Enabled = false;
 }
 
 void frmEditEvent::placeEventTab(Frame& tab) {
@@ -343,8 +344,46 @@ void frmEditEvent::cmdLaunch_Click() {
 }
 
 void frmEditEvent::cmdTemplate_Click() {
-    // Opens the list of event templates (template_event.dat) once the program has
-    // one; until then the button stays disabled.
+    // The fields of an event template, in the order the form shows them.
+    struct TemplateField {
+        const char* caption;
+        int fieldType;
+        long listWidth;
+        long maxLength;
+        long height;
+    };
+    static constexpr TemplateField kFields[] = {{"ID     ", fieldKey, 0, 6, 255},
+                                                {"Name     ", fieldText, 1760, 50, 315},
+                                                {"Length     ", fieldText, 550, 10, 315},
+                                                {"Category ", fieldText, 1440, 140, 315},
+                                                {"Details  ", fieldRichText, 1440, 5550, 2400}};
+    // The layout of the template's fields: left of the controls, width, row step.
+    constexpr long kTemplateLeft = 500, kTemplateWidth = 5000, kTemplateRowStep = 3 * 120;
+
+    ListAndDetailsDefinition& definition = gListAndDetails;
+    definition = ListAndDetailsDefinition();
+    definition.formTitle = "EventTemplate";
+    definition.fileName = gStrDataPath + "template_event.dat";
+    definition.numFields = 5;
+    definition.keyField = 0;
+    definition.delimiter = kFieldDelimiter;
+    long row = 0;
+    for (size_t i = 0; i < std::size(kFields); ++i) {
+        ListAndDetailsField& field = definition.fields[i];
+        const TemplateField& shown = kFields[i];
+        field = {shown.caption, shown.fieldType, shown.maxLength, kTemplateLeft, 120 + row * kTemplateRowStep,
+                 kTemplateWidth, shown.height, shown.listWidth};
+        if (shown.fieldType != fieldKey) ++row;
+    }
+
+    // The list keeps its own changes: the event's answer stays as it was.
+    const bool eventChanged = glbConfig.dataChanged;
+    frmListAndDetailsSubForm templates;
+    templates.BuildForm();
+    platform().DoEvents();
+    templates.LoadFileToListBox();
+    templates.Show(true);
+    glbConfig.dataChanged = eventChanged;
 }
 
 void frmEditEvent::cmdCancel_Click() {

@@ -4,8 +4,8 @@
 
 #include "config/clsConfigDiary.h"
 #include "dialogs/DialogDates.h"
+#include "dialogs/TextEditCommands.h"
 #include "diary/cDiaryRecords.h"
-#include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
@@ -27,12 +27,6 @@ constexpr long kFrameTop = 450;
 // A stored date ("yyyymmdd") as the properties show it; "" for none.
 std::string shownDate(const std::string& yyyymmdd) {
     return yyyymmdd.empty() ? "" : FormatDate(DateOfText(yyyymmdd), "dd/mm/yyyy");
-}
-
-std::string fileContent(const std::string& path) {
-    std::string bytes;
-    if (FileExists(path)) ReadWholeFile(path, bytes);
-    return bytes;
 }
 
 }  // namespace
@@ -172,24 +166,7 @@ void frmEditNote::txtClip_MouseDown(int button, int, long, long) {
 }
 
 void frmEditNote::txtClip_OLEDragDrop(const DataObject& data) {
-    if (!data.HasFiles()) {
-        appendLine(data.Text);
-        return;
-    }
-    if (data.Files.size() == 1 && txtClip.Text().empty()) {
-        txtClip.Text = fileContent(data.Files.front());
-        return;
-    }
-    if (data.Files.size() > 1) {
-        const std::string question =
-            "Copy contents from " + CStr(static_cast<long>(data.Files.size())) + " files into Textbox?";
-        if (platform().MsgBox(question, vbYesNo, "Pasting Text from Files") != vbYes) return;
-    }
-    for (const std::string& file : data.Files) appendLine(file + "\r\n" + fileContent(file) + "\r\n");
-}
-
-void frmEditNote::appendLine(const std::string& text) {
-    txtClip.Text = txtClip.Text() + "\r\n" + text;
+    DropIntoText(txtClip, data);
 }
 
 void frmEditNote::mnuClipUndo_Click() {
@@ -197,13 +174,11 @@ void frmEditNote::mnuClipUndo_Click() {
 }
 
 void frmEditNote::mnuClipCut_Click() {
-    if (txtClip.SelLength == 0) return;
-    platform().SetClipboardText(txtClip.SelText);
-    txtClip.SelText = "";
+    CutSelection(txtClip);
 }
 
 void frmEditNote::mnuClipCopy_Click() {
-    if (txtClip.SelLength > 0) platform().SetClipboardText(txtClip.SelText);
+    CopySelection(txtClip);
 }
 
 void frmEditNote::mnuClipPaste_Click() {
@@ -211,14 +186,11 @@ void frmEditNote::mnuClipPaste_Click() {
 }
 
 void frmEditNote::mnuClipSelectAll_Click() {
-    txtClip.SelStart = 0;
-    txtClip.SelLength = Len(txtClip.Text());
+    SelectAllText(txtClip);
 }
 
 void frmEditNote::mnuClipSelectAndCopy_Click() {
-    mnuClipSelectAll_Click();
-    platform().SetClipboardText("");
-    platform().SetClipboardText(txtClip.Text);
+    SelectAllAndCopy(txtClip);
 }
 
 void frmEditNote::mnuClipClear_Click() {

@@ -71,8 +71,6 @@ public:
 private:
     void placeControls();
     void bindEvents();
-    /// Adds a line break and `text` at the end of the note's text.
-    void appendLine(const std::string& text);
 };
 
 }  // namespace orbidex

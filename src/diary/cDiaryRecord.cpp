@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "foundation/StringHelpers.h"
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
@@ -61,6 +62,36 @@ bool allBlank(const std::string& a, const std::string& b, const std::string& c, 
 
 std::string twoDigits(int value) {
     return FormatNumber(value, "00");
+}
+
+// Comma lines: at most 99 columns are looked at, in at most 200 slots.
+constexpr size_t kCommaColumns = 99;
+constexpr long kCommaSlots = 200;
+
+// The fields of a comma line from index 1; index 0 and the last index are empty.
+std::vector<std::string> splitCommaLine(const std::string& line) {
+    std::string marked(kFieldDelimiter);
+    bool quoted = false;
+    for (char c : line) {
+        if (c == '"')
+            quoted = !quoted;
+        else if (c == ',' && !quoted)
+            marked += kFieldDelimiter;
+        else
+            marked += c;
+    }
+    marked += kFieldDelimiter;
+    std::vector<std::string> parts;
+    SplitToArray(parts, std::string(kFieldDelimiter), kCommaSlots, marked);
+    return parts;
+}
+
+std::string standardHeading(const std::string& heading) {
+    if (heading == "DATE" || heading == "EVENTDATE" || heading == "DATEEVENT") return "DATE";
+    if (heading == "TIME" || heading == "EVENTTIME" || heading == "TIMEEVENT") return "TIME";
+    if (heading == "LOCATION") return "URL";
+    if (heading == "DETAILS" || heading == "TITLE" || heading == "NOTES") return "DETAILS";
+    return "";
 }
 
 }  // namespace
@@ -186,6 +217,32 @@ std::string cDiaryRecord::FormatAsText(std::string_view delimiter, bool shortFor
 
 std::string cDiaryRecord::FormatDiaryRecordAsHTML() const {
     return "<TD valign=top width=40>" + TimeEvent + "</td>" + "<td valign=top >" + details + "</td>" + "</tr>";
+}
+
+void cDiaryRecord::ParseCSVHeader(const std::string& line, std::vector<std::string>& names) const {
+    const std::vector<std::string> parts = splitCommaLine(line);
+    names.assign(kCommaColumns + 1, "");
+    for (size_t i = 1; i <= kCommaColumns && i < parts.size(); ++i) {
+        const std::string heading = UCase(Trim(parts[i]));
+        if (heading.empty()) continue;
+        names[i] = standardHeading(heading);
+        if (names[i].empty())
+            platform().MsgBox("Unknown Field in ParseCSVHeader :\r\n" + heading +
+                                  "\r\nThis import will continue, but will ignore this field - you can edit this file "
+                                  "with a text editor and retry the import",
+                              vbOKOnly, "Dont know how to Parse this Field Heading");
+    }
+}
+
+void cDiaryRecord::ParseCSVRecord(const std::string& line, const std::vector<std::string>& names) {
+    const std::vector<std::string> parts = splitCommaLine(line);
+    init("", "", "", "", Currency(), "");
+    ID = "D" + FormatDate(Now(), "yyyymmdd") + "0000";  // replaced when the event is added
+    for (size_t i = 0; i <= kCommaColumns && i < names.size() && i < parts.size(); ++i) {
+        if (names[i] == "DATE") DateEvent = parts[i];
+        if (names[i] == "DETAILS") details = parts[i];
+        if (names[i] == "URL") URL = parts[i];
+    }
 }
 
 int cDiaryRecord::IsThisEventIsReminder() const {

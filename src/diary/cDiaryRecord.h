@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "diary/Currency.h"
 
@@ -72,6 +73,16 @@ public:
     std::string FormatAsText(std::string_view delimiter, bool shortForm) const;
     /// The cells of one table row; the caller opens the row.
     std::string FormatDiaryRecordAsHTML() const;
+
+    // Comma-separated lines.  A field may stand in double quotes and then hold commas;
+    // every double quote is dropped.
+    /// The standard heading of each column of a heading line, from index 1: "DATE",
+    /// "TIME", "URL" (the location), "DETAILS", or "" for a column that is passed
+    /// over.  An unknown heading is shown to the user, who is told it is ignored.
+    void ParseCSVHeader(const std::string& line, std::vector<std::string>& names) const;
+    /// A new event from one line under those headings: dated today (unless a "DATE"
+    /// column says otherwise), timed now, with a placeholder ID of today.
+    void ParseCSVRecord(const std::string& line, const std::vector<std::string>& names);
 
     /// 0 no reminder, 1 due today, 2 still to come, 3 past.
     int IsThisEventIsReminder() const;

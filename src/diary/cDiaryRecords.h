@@ -98,6 +98,18 @@ public:
     std::string getUniqueID(const std::string& file, VbDate date, std::string_view delimiter);
     /// The identifier after `lastID` for `date`: its sequence + 1 on the same date, 1 on another.
     std::string createNextID(VbDate date, const std::string& lastID);
+    /// The letter that starts the identifiers of a file whose first line is `firstLine`.
+    static std::string idLetterOf(const std::string& firstLine, const std::string& file);
+    /// The test of an event already in a file: a line holds it when its date, time
+    /// and text stand in the line as fields, wherever they stand.
+    class EventInLine {
+    public:
+        EventInLine(const std::string& date, const std::string& time, const std::string& details);
+        bool HeldBy(const std::string& line) const;
+
+    private:
+        std::string date_, time_, details_;  ///< each between two delimiters
+    };
 
     // Finding, adding and taking out
 
@@ -141,8 +153,13 @@ public:
     /// Deletes the selected event, after asking unless `noQuestion`; a meeting may
     /// be cancelled on the other users' diaries.
     void DiaryEventDelete(bool noQuestion);
-    /// Adds `records` (from index 1 to `count`), month by month, and reports.
+    /// Adds `records` (from index 1 to `count`) to their months, each monthly file
+    /// read and written once, and reports what was added and what was not: an event
+    /// whose date is no date of the diary, or that its month holds already.
     void AddBulkRecords(std::vector<cDiaryRecord>& records, long count);
+    /// Imports a comma-separated file (X.CSV leaves its events as X.DAT beside it)
+    /// or a file of event lines (a name ending in ".DAT").
+    void ImportData(std::string file);
     /// Appends a change of a meeting to the change request file: a header line, the
     /// old event and the new one.
     void SendEventChanges(const cDiaryRecord& oldRecord, const cDiaryRecord& newRecord);
@@ -257,6 +274,7 @@ private:
     /// The file's modification time and length as text; "" when it is missing.
     static std::string stampOf(const std::string& file);
     std::string diaryFileName(VbDate date) const;
+
     long readLinesInto(const std::string& bytes, long from);
     /// The number of events the loads left, also beyond what gIntTotalEvents can hold.
     long loadedCount() const;

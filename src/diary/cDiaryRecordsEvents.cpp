@@ -1,6 +1,5 @@
-// What the user does to one event: add, edit, reschedule, move and delete it, add
-// one event on many dates, tell other users of a changed meeting, and the word
-// lists of the event editor.
+// What the user does to one event: add, edit, reschedule, move and delete it, tell
+// other users of a changed meeting, and the word lists of the event editor.
 #include <algorithm>
 #include <cstdint>
 
@@ -213,40 +212,6 @@ void cDiaryRecords::DiaryEventDelete(bool noQuestion) {
         cancelled.TimeEvent.clear();
         SendEventChanges(deleted, cancelled);
     }
-}
-
-void cDiaryRecords::AddBulkRecords(std::vector<cDiaryRecord>& records, long count) {
-    count = std::clamp(count, 0L, std::max(static_cast<long>(records.size()) - 1, 0L));
-    auto monthFileOf = [this](const cDiaryRecord& record) {
-        return GetDiaryFileNameForDate(DateFromYYYYMMDD(record.DateEvent));
-    };
-
-    // The months the records fall in, each file made if missing.
-    const std::string monthList = gStrDataPath + "tmpFileList.txt";
-    std::string names;
-    for (long i = 1; i <= count; ++i) names += GetFileNameOnly(monthFileOf(records[static_cast<size_t>(i)])) + "\r\n";
-    WriteWholeFile(monthList, names);
-    std::vector<std::string> months;
-    ReadUniqueFieldValues(monthList, 1, 7, months);
-
-    // Month by month; only the first month's events go to the server one at a time.
-    bool firstMonth = true;
-    for (const std::string& month : months) {
-        const std::string file = gStrDataPath + month + ".dat";
-        if (!FileExists(file)) continue;
-        for (long i = 1; i <= count; ++i) {
-            cDiaryRecord& record = records[static_cast<size_t>(i)];
-            glbLog.log("Bulk adding - " + record.details + " to " + record.DateEvent, 0);
-            if (UCase(GetFileNameOnly(monthFileOf(record))) == UCase(month) + ".DAT")
-                AddDiaryRecord(record, true, !firstMonth);
-        }
-        glbComms.SaveDiaryFileToServer(file, false);
-        firstMonth = false;
-    }
-
-    LoadDiaryData(MainForm().MonthView1.Value);
-    glbScreen.SwitchMode(glbScreen.Mode());
-    platform().MsgBox("Finished adding " + CStr(count) + " records.", vbOKOnly, "Success");
 }
 
 void cDiaryRecords::SendEventChanges(const cDiaryRecord& oldRecord, const cDiaryRecord& newRecord) {

@@ -33,6 +33,26 @@ int32_t cDiaryRecords::IdConvertToLong(const std::string& id) const {
     return static_cast<int32_t>(value);
 }
 
+std::string cDiaryRecords::idLetterOf(const std::string& firstLine, const std::string& file) {
+    if (firstLine.empty()) return Trim(Left(GetFileNameOnly(file), 1));
+    return StartsWith(firstLine, "ID") ? "C" : Trim(Left(firstLine, 1));
+}
+
+cDiaryRecords::EventInLine::EventInLine(const std::string& date, const std::string& time, const std::string& details)
+    : date_(kFieldDelimiter), time_(kFieldDelimiter), details_(kFieldDelimiter) {
+    date_.append(date).append(kFieldDelimiter);
+    time_.append(time).append(kFieldDelimiter);
+    details_.append(details).append(kFieldDelimiter);
+}
+
+bool cDiaryRecords::EventInLine::HeldBy(const std::string& line) const {
+    // Only that the three texts stand as fields somewhere in the line counts, not where;
+    // the searches start at the 5th, 9th and 12th character.
+    if (line.find_first_not_of(' ') == std::string::npos) return false;
+    return line.find(date_, 4) != std::string::npos && line.find(time_, 8) != std::string::npos &&
+           line.find(details_, 11) != std::string::npos;
+}
+
 std::string cDiaryRecords::getUniqueID(const std::string& file, VbDate date, std::string_view delimiter) {
     // Every caller has just made the file by asking its name; the text is what a
     // failed comparison has always given here.
@@ -40,15 +60,8 @@ std::string cDiaryRecords::getUniqueID(const std::string& file, VbDate date, std
     std::string bytes;
     ReadWholeFile(file, bytes);
     const std::vector<std::string> lines = SplitLines(bytes);
-    const std::string firstLine = lines.empty() ? "" : lines.front();
     const std::string day = FormatDate(date, "yyyymmdd");
-    std::string prefix;
-    if (!firstLine.empty() && StartsWith(firstLine, "ID"))
-        prefix = "C" + day;
-    else if (!firstLine.empty())
-        prefix = Trim(Left(firstLine, 1)) + day;
-    else
-        prefix = Trim(Left(GetFileNameOnly(file), 1)) + day;
+    const std::string prefix = idLetterOf(lines.empty() ? "" : lines.front(), file) + day;
 
     bool matched = false;
     std::string lastMatch, highest;
@@ -93,14 +106,9 @@ bool cDiaryRecords::DoesDiaryRecordAlreadyExist(const std::string& date, const s
     if (gStrDiaryDataFile.empty()) return false;
     std::string bytes;
     if (!ReadWholeFile(gStrDiaryDataFile, bytes)) return false;
-    // Only that the three texts stand as fields somewhere in the line counts, not where.
-    const std::string d(kFieldDelimiter);
-    for (const std::string& line : SplitLines(bytes)) {
-        if (Trim(line).empty()) continue;
-        if (InStr(5, line, d + date + d) > 0 && InStr(9, line, d + time + d) > 0 &&
-            InStr(12, line, d + details + d) > 0)
-            return true;
-    }
+    const EventInLine event(date, time, details);
+    for (const std::string& line : SplitLines(bytes))
+        if (event.HeldBy(line)) return true;
     return false;
 }
 

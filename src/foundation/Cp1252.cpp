@@ -49,7 +49,41 @@ size_t decode(std::string_view s, size_t i, char32_t& cp) {
     return len;
 }
 
+bool isUtf8BeyondAscii(std::string_view bytes) {
+    bool beyondAscii = false;
+    for (size_t i = 0; i < bytes.size();) {
+        char32_t cp = 0;
+        const size_t len = decode(bytes, i, cp);
+        if (len == 0) return false;
+        beyondAscii = beyondAscii || len > 1;
+        i += len;
+    }
+    return beyondAscii;
+}
+
+std::string cp1252FromUtf16(std::string_view bytes, bool bigEndian) {
+    std::string out;
+    out.reserve(bytes.size() / 2);
+    for (size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        const auto first = static_cast<unsigned char>(bytes[i]);
+        const auto second = static_cast<unsigned char>(bytes[i + 1]);
+        const char32_t unit = bigEndian ? (first << 8 | second) : (second << 8 | first);
+        // A surrogate pair stands for one character beyond the code page: one "?".
+        if (unit >= 0xDC00 && unit <= 0xDFFF) continue;
+        out.push_back(unit >= 0xD800 && unit <= 0xDBFF ? '?' : byteOf(unit));
+    }
+    return out;
+}
+
 }  // namespace
+
+std::string Cp1252FromForeignText(std::string_view bytes) {
+    if (bytes.substr(0, 3) == "\xEF\xBB\xBF") return Cp1252FromUtf8(bytes.substr(3));
+    if (bytes.substr(0, 2) == "\xFF\xFE") return cp1252FromUtf16(bytes.substr(2), false);
+    if (bytes.substr(0, 2) == "\xFE\xFF") return cp1252FromUtf16(bytes.substr(2), true);
+    if (isUtf8BeyondAscii(bytes)) return Cp1252FromUtf8(bytes);
+    return std::string(bytes);
+}
 
 std::string Utf8FromCp1252(std::string_view bytes) {
     std::string out;

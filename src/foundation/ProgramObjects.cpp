@@ -1,5 +1,7 @@
 // The long-lived objects of the program, put back to their start by ResetProgramState.
+#include "accessories/frmClipboard.h"
 #include "config/clsConfigDiary.h"
+#include "diary/cDiaryFileUtils.h"
 #include "diary/cDiaryRecord.h"
 #include "diary/cDiaryRecords.h"
 #include "diary/cDiaryRecurring.h"
@@ -29,6 +31,7 @@ void ResetProgramObjects() {
     glbComms = cComms();
     glbDiaryComms = cDiaryComms();
     glbRecurring = cDiaryRecurring();
+    glbFileUtils = cDiaryFileUtils();
     gCurrentEvent = cDiaryRecord();
     glbSearchEvent = cDiaryRecord();
     glbOldEvent = cDiaryRecord();
@@ -38,6 +41,7 @@ void ResetProgramObjects() {
     gCurrentNote = cNote();
     gNoteHeadings = cNote();
     gListAndDetails = ListAndDetailsDefinition();
+    ResetScratchPad();
     ResetMainForm();
     glbMessages = cMessages();
     ResetChatForm();

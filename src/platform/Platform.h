@@ -72,6 +72,14 @@ public:
         (void)milliseconds;
         DoEvents();
     }
+    /// The file the user picks to open, in stored form, among the files that match
+    /// `filter` ("Comma-separated files (*.csv);;All files (*)"); "" when the user
+    /// cancels.
+    virtual std::string PickFileToOpen(const std::string& title, const std::string& filter) {
+        (void)title;
+        (void)filter;
+        return "";
+    }
     virtual void Beep() = 0;
     virtual void PlaySoundFile(const std::string& storedPath) = 0;
     virtual std::string ClipboardText() = 0;

@@ -13,9 +13,10 @@ void RegisterProgramWindows(QtFormRegistry& registry) {
                       [](Form& form) { return new MainWindow(static_cast<frmClientDiaryMain&>(form)); });
 
     // The editing dialogs: every control is drawn at its place by the form's window.
-    for (const char* dialog : {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator",
-                               "frmEditTask", "frmEditNote", "frmTemplateEdit", "frmInfoSearch",
-                               "frmOptions"})
+    for (const char* dialog :
+         {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator", "frmEditTask", "frmEditNote",
+          "frmTemplateEdit", "frmTemplateList", "frmListAndDetailsSubForm", "frmClipboard", "frmInfoSearch",
+          "frmOptions"})
         registry.Register(dialog, [](Form& form) { return new FormWindow(form); });
 
     // The windows shown without waiting: the chat and the note.

@@ -97,6 +97,16 @@ int titleWidth(const QString& title) {
     return screen == nullptr ? wanted : std::min(wanted, screen->availableGeometry().width() * 9 / 10);
 }
 
+// The normal pointer over a dialog that waits for the user, also while the program
+// shows the busy cursor.
+class NormalCursorWhileAsking {
+public:
+    NormalCursorWhileAsking() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
+    ~NormalCursorWhileAsking() { QApplication::restoreOverrideCursor(); }
+    NormalCursorWhileAsking(const NormalCursorWhileAsking&) = delete;
+    NormalCursorWhileAsking& operator=(const NormalCursorWhileAsking&) = delete;
+};
+
 // A message box sizes itself by its text alone: a row as wide as the title widens it.
 void makeRoomForTitle(QMessageBox& box) {
     auto* grid = qobject_cast<QGridLayout*>(box.layout());
@@ -126,6 +136,7 @@ int QtPlatform::MsgBox(const std::string& prompt, int buttons, const std::string
     QMessageBox box(iconOf(buttons), titleOr(title), ToQString(prompt), buttonsOf(buttons), QApplication::activeWindow());
     box.setDefaultButton(defaultOf(buttons));
     makeRoomForTitle(box);
+    const NormalCursorWhileAsking cursor;
     return answerOf(box.exec());
 }
 
@@ -137,7 +148,15 @@ std::string QtPlatform::InputBox(const std::string& prompt, const std::string& t
     box.setTextValue(ToQString(defaultText));
     // The box lays itself out when shown: its text makes it as wide as the title.
     if (auto* label = box.findChild<QLabel*>()) label->setMinimumWidth(titleWidth(box.windowTitle()));
+    const NormalCursorWhileAsking cursor;
     return box.exec() == QDialog::Accepted ? FromQString(box.textValue()) : "";
+}
+
+std::string QtPlatform::PickFileToOpen(const std::string& title, const std::string& filter) {
+    const NormalCursorWhileAsking cursor;
+    const QString file = QFileDialog::getOpenFileName(QApplication::activeWindow(), ToQString(title), QDir::homePath(),
+                                                      ToQString(filter));
+    return file.isEmpty() ? "" : ToStoredPath(file.toStdString());
 }
 
 void QtPlatform::SetBusyCursor(bool busy) {

@@ -81,6 +81,17 @@ public:
     void ConvertListViewToHtml(ListView& list, const std::string& file);
     void ConvertGridToHtml(FlexGrid& grid, const std::string& file);
 
+    // Importing and exporting events, and the scratch pad
+    /// A comma-separated file or a file of event lines, picked by the user, into the diary.
+    void ImportAppointments();
+    /// After the user agrees, the diary as HTML pages, one per month; the page of the
+    /// month on screen then opens in the browser pane.
+    void ExportAppointments();
+    /// The diary as HTML pages; the page of the month on screen opens in the desktop's browser.
+    void ViewEventsInBrowser();
+    /// Opens the scratch pad beside the window, or brings it to the front.
+    void ShowScratchPad();
+
     // Entries of the tools, beta and help menus
     /// Starts a companion program that stands beside this one.
     void StartCompanionTool(const std::string& exeName);
@@ -193,6 +204,8 @@ private:
     /// Tasks and notes read from the new data folder, and the user told that the
     /// files of the old one stay there.
     void dataFolderChanged(const std::string& oldDataPath);
+    /// Exports the diary; the page of the month on screen, or of the last month, or "".
+    std::string exportPages();
     void unavailable(const std::string& what);
 
     frmClientDiaryMain* form_ = nullptr;

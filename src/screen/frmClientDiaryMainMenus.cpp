@@ -17,9 +17,9 @@ namespace {
 // operation in this version of the program.
 const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
-        "mnuFileImport",        "mnuFileExport",          "mnuAppPlanMeeting", "mnuTaskHeadings", "mnuNotesMenu(3)",
-        "mnuOptScrapPaper",     "mnuToolsCalendar",       "mnuOptionsDisplay",
-        "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuBetaServerEnforce", "mnuBetaTest(0)", "mnuHelpAbout",
+        "mnuAppPlanMeeting",      "mnuTaskHeadings",      "mnuNotesMenu(3)",   "mnuToolsCalendar",
+        "mnuOptionsDisplay",      "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuBetaServerEnforce",
+        "mnuHelpAbout",
     };
     return names;
 }
@@ -70,6 +70,8 @@ void frmClientDiaryMain::disableEntriesWithoutOperation() {
 }
 
 void frmClientDiaryMain::bindMenus() {
+    mnuFileImport.onClick = [] { glbCmd.ImportAppointments(); };
+    mnuFileExport.onClick = [] { glbCmd.ExportAppointments(); };
     mnuFilePrint.Shortcut = "Ctrl+P";
     mnuFilePrint.onClick = [] { glbCmd.CommandPrint(); };
     mnuFileExit.onClick = [] { glbCmd.CommandExit(); };
@@ -117,6 +119,7 @@ void frmClientDiaryMain::bindMenus() {
     bindViewMenus();
 
     mnuToolsCalendar.onClick = [] { glbCmd.ViewYear(); };
+    mnuOptScrapPaper.onClick = [] { glbCmd.ShowScratchPad(); };
     mnuToolsTobrin.onClick = [] { glbCmd.StartCompanionTool("tobrin.exe"); };
     mnuToolsQuickAdd.onClick = [] { glbCmd.StartCompanionTool("sulvane.exe"); };
     mnuToolsTimesheet.onClick = [] { glbCmd.StartCompanionTool("kestrop.exe"); };
@@ -132,6 +135,7 @@ void frmClientDiaryMain::bindMenus() {
     mnuBetaReindexTask.onClick = [] { glbCmd.ReIndexTasks(); };
     mnuBetaRestart.onClick = [] { glbCmd.RestartProgram(); };
     for (int i = 0; i < static_cast<int>(mnuBetaTest.size()); ++i) mnuBetaTest[i].SetIndex(i);
+    mnuBetaTest[0].onClick = [] { glbCmd.ViewEventsInBrowser(); };
     mnuBetaTest[1].onClick = [] { glbCmd.ShowTasksInBrowser(); };
     mnuBetaTest[2].onClick = [] { glbCmd.ShowViewTotals(); };
     mnuBetaTest[3].onClick = [] { glbCmd.ShowEventCount(); };

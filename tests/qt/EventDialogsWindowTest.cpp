@@ -62,7 +62,7 @@ TEST_F(EventDialogsWindowTest, TheEventEditorShowsItsTabsAndWidensForTheDetails)
     ASSERT_NE(details, nullptr);
     EXPECT_EQ(details->parentWidget(), window->viewOf(form.frameEvents(0)));
     EXPECT_FALSE(window->viewOf(form.DTPicker1)->isVisible()) << "on the second tab";
-    EXPECT_FALSE(window->viewOf(form.cmdTemplate)->isEnabled());
+    EXPECT_TRUE(window->viewOf(form.cmdTemplate)->isEnabled());
     test::SaveScreenshot(*window, QStringLiteral("frmEditEvent"));
 
     auto* tabs = static_cast<TabStripWidget*>(window->viewOf(form.tabEvent));

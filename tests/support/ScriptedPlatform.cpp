@@ -62,6 +62,18 @@ std::string ScriptedPlatform::PickFolder(const std::string& title, const std::st
     return answer;
 }
 
+std::string ScriptedPlatform::PickFileToOpen(const std::string& title, const std::string& filter) {
+    std::string file;
+    if (!pickedFiles_.empty()) {
+        file = pickedFiles_.front();
+        pickedFiles_.pop_front();
+    } else {
+        problem("Unanswered file picker: [" + title + "] " + filter);
+    }
+    transcript_.push_back({DialogRecord::Input, title, filter, 0, file});
+    return file;
+}
+
 void ScriptedPlatform::DoEvents() {
     ++doEventsCount_;
     // A wait that never ends would hang the test: stop it with a problem instead.

@@ -39,6 +39,8 @@ public:
     void QueueInputAnswer(const std::string& text) { inputAnswers_.push_back(text); }
     /// The folder the next folder picker gives ("" for Cancel).
     void QueueFolderAnswer(const std::string& folder) { folderAnswers_.push_back(folder); }
+    /// The file picker answers with the queued files in turn (stored paths, "" to cancel).
+    void QueuePickedFile(const std::string& file) { pickedFiles_.push_back(file); }
     const std::vector<DialogRecord>& Transcript() const { return transcript_; }
     /// The texts of all message boxes shown so far.
     std::vector<std::string> MessageTexts() const;
@@ -83,6 +85,7 @@ public:
     double Rnd() override;
     int MsgBox(const std::string& prompt, int buttons, const std::string& title) override;
     std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) override;
+    std::string PickFileToOpen(const std::string& title, const std::string& filter) override;
     void SetBusyCursor(bool busy) override { busy_ = busy; }
     void DoEvents() override;
     void Beep() override { ++beeps_; }
@@ -115,6 +118,7 @@ private:
     std::deque<int> msgAnswers_;
     std::deque<std::string> inputAnswers_;
     std::deque<std::string> folderAnswers_;
+    std::deque<std::string> pickedFiles_;
     std::vector<DialogRecord> transcript_;
     std::map<std::string, std::deque<std::function<void(Form&)>>> formScripts_;
     std::vector<std::string> formsShown_;
