@@ -17,7 +17,7 @@ namespace {
 // operation in this version of the program.
 const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
-        "mnuFileImport",        "mnuFileExport",          "mnuAppPlanMeeting", "mnuTaskHeadings", "mnuNotesMenu(3)",
+        "mnuFileImport",        "mnuFileExport",          "mnuTaskHeadings", "mnuNotesMenu(3)",
         "mnuOptScrapPaper",     "mnuToolsCalendar",       "mnuViewSetup",      "mnuOptionsDisplay",
         "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuBetaServerEnforce", "mnuBetaTest(0)", "mnuHelpAbout",
     };
@@ -26,7 +26,7 @@ const std::set<std::string>& entriesWithoutOperation() {
 
 const std::set<std::string>& keysWithoutOperation() {
     static const std::set<std::string> keys = {
-        "year", "refresh", "properties", "Meeting",
+        "year", "properties",
     };
     return keys;
 }
@@ -34,7 +34,7 @@ const std::set<std::string>& keysWithoutOperation() {
 // The modes in which the tool bar's "new" button adds something; in the others it
 // does nothing yet and is disabled.
 bool newAddsIn(const std::string& mode) {
-    return mode == "HOME" || mode == "CALENDAR" || mode == "TASK" || mode == "NOTE";
+    return mode == "HOME" || mode == "CALENDAR" || mode == "TASK" || mode == "NOTE" || mode == "STAFF";
 }
 
 // The modes in which the tool bar's "delete" button deletes the selected item.
