@@ -22,11 +22,17 @@ namespace {
 constexpr size_t kMostStaff = 99;
 constexpr long kFirstUserRow = 2;
 constexpr long kSlotWidth = 390;
+/// A day alone has room for the texts of its events.
+constexpr long kDaySlotWidth = 600;
+/// Twips left for the grid's scroll bar when the slots share its width.
+constexpr long kScrollBarRoom = 300;
 /// Twips a character of a name or a total takes, for the widths of those columns.
 constexpr long kCharWidth = 110;
 /// Pixels a character takes, for the lines a long text needs in its row.
-constexpr long kCharPixels = 6;
+constexpr long kCharPixels = 7;
+constexpr long kTwipsPerPixel = 15;
 constexpr long kLineHeight = 255;
+constexpr long kHourRowHeight = 360;
 constexpr long kMostLines = 20;
 constexpr OleColor kPrivateText = 0x80000011;
 constexpr OleColor kTotalsText = 0x808080;
@@ -195,7 +201,7 @@ std::string cellText(const cDiaryRecord& record, bool showLocation, bool showDet
     return Trim(text).empty() ? "." : text;
 }
 
-void placeInTakenCell(FlexGrid& grid, const cDiaryRecord& record, bool showLocation, bool showDetails) {
+void placeBeside(FlexGrid& grid, const cDiaryRecord& record, bool showLocation, bool showDetails) {
     grid.CellBackColor = SettingColour(glbConfig.multi_BackColor);
     grid.CellForeColor = SettingColour(glbConfig.multi_ForeColor);
     if (showDetails) {
@@ -210,12 +216,33 @@ void placeInTakenCell(FlexGrid& grid, const cDiaryRecord& record, bool showLocat
     }
 }
 
-// With details and location both shown, the row grows to the lines its longest
-// text needs.
+// The bar of the event already in the cell keeps showing what the cell shows, so
+// that it stays one cell on screen.
+void placeInTakenCell(FlexGrid& grid, const cDiaryRecord& record, bool showLocation, bool showDetails) {
+    const std::string before = grid.Text;
+    const long col = grid.Col;
+    placeBeside(grid, record, showLocation, showDetails);
+    const std::string after = grid.Text;
+    const OleColor back = grid.CellBackColor;
+    const OleColor fore = grid.CellForeColor;
+    for (long c = col + 1; c < grid.Cols - 1 && grid.TextMatrix(grid.Row, c) == before; ++c) {
+        grid.Col = c;
+        grid.Text = after;
+        grid.CellBackColor = back;
+        grid.CellForeColor = fore;
+    }
+    grid.Col = col;
+}
+
+// With details and location both shown, the row grows to the lines the text needs
+// in the width of its bar.
 void growRow(FlexGrid& grid) {
-    const long width = std::max<long>(grid.ColWidth(grid.Col) / 5, 1);
-    const long lines = std::min(Len(grid.Text) * kCharPixels / width + 1, kMostLines);
-    const long height = kLineHeight * lines;
+    const CellRange bar = grid.MergedRange(grid.Row, grid.Col);
+    long width = 0;
+    for (long c = bar.col1; c <= bar.col2; ++c) width += grid.ColWidth(c);
+    const long pixels = std::max<long>(width / kTwipsPerPixel, 1);
+    const long lines = std::min((Len(grid.Text) * kCharPixels + pixels - 1) / pixels, kMostLines);
+    const long height = kLineHeight * std::max(lines, 1L);
     if (height > grid.RowHeight(grid.Row)) grid.SetRowHeight(grid.Row, height);
 }
 
@@ -246,6 +273,10 @@ void GridInitStaff(frmClientDiaryMain&, FlexGrid& grid, VbDate date, int days, c
     grid.BackColorFixed = SettingColour(glbConfig.heading_BackColor);
     grid.WordWrap = true;
     grid.MergeCells = flexMergeFree;
+    // The calendar's day view hides its heading row and grows its rows: each row
+    // starts anew here.
+    for (long row = 0; row < grid.Rows; ++row)
+        grid.SetRowHeight(row, row == 0 ? kHourRowHeight : std::max<long>(glbConfig.RowHeightMin, kLineHeight));
     glbStaffCellIds.assign(static_cast<size_t>(grid.Rows()),
                            std::vector<std::string>(static_cast<size_t>(grid.Cols())));
     cellMinutes.assign(static_cast<size_t>(grid.Rows()), std::vector<long>(static_cast<size_t>(grid.Cols())));
@@ -255,7 +286,7 @@ void GridInitStaff(frmClientDiaryMain&, FlexGrid& grid, VbDate date, int days, c
     for (int d = 0; d < days; ++d) {
         for (long s = 1; s <= slots.totSlots; ++s) {
             const long col = perDay * d + s;
-            grid.SetColWidth(col, kSlotWidth);
+            grid.SetColWidth(col, days == 1 ? kDaySlotWidth : kSlotWidth);
             const std::string label = slots.tmeGet(s);
             grid.Col = col;
             grid.Row = 0;
@@ -345,6 +376,26 @@ long GridPlaceEvent(const cDiaryRecord& record, FlexGrid& grid, int day, bool sh
 
 long GridPlaceEventInDay(const cDiaryRecord& record, FlexGrid& grid, int day, bool showLocation, bool showDetails) {
     return GridPlaceEvent(record, grid, day, showLocation, showDetails, false);
+}
+
+void GridWidenSlots(FlexGrid& grid) {
+    if (glbConfig.Autosize != 1) return;
+    const long perDay = CalendarTimeSlots().totSlots + 1;
+    const long last = grid.Cols - 1;
+    long others = 0;
+    long slotCount = 0;
+    for (long col = 0; col <= last; ++col) {
+        const bool slot = col > 0 && col < last && col % perDay != 0;
+        if (slot)
+            ++slotCount;
+        else
+            others += grid.ColWidth(col);
+    }
+    if (slotCount == 0) return;
+    const long share = (static_cast<long>(grid.Width) - others - kScrollBarRoom) / slotCount;
+    if (share <= grid.ColWidth(1)) return;
+    for (long col = 1; col < last; ++col)
+        if (col % perDay != 0) grid.SetColWidth(col, share);
 }
 
 void GridShadeEmptyCells(FlexGrid& grid) {

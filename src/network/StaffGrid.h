@@ -41,6 +41,9 @@ long GridPlaceEvent(const cDiaryRecord& record, FlexGrid& grid, int day, bool sh
                     bool oneDayOnly);
 /// GridPlaceEvent in a view of several days.
 long GridPlaceEventInDay(const cDiaryRecord& record, FlexGrid& grid, int day, bool showLocation, bool showDetails);
+/// With Autosize on, the slots share the grid's width; they are never made narrower
+/// than they are, so that a narrow window scrolls instead.
+void GridWidenSlots(FlexGrid& grid);
 /// Gives the slots nobody has taken a shade of their own.
 void GridShadeEmptyCells(FlexGrid& grid);
 /// Heads the last row "TOTAL".

@@ -14,9 +14,9 @@ namespace orbidex {
 namespace {
 
 constexpr long kLabelLeft = 120;
-constexpr long kFieldLeft = 1320;
+constexpr long kFieldLeft = 1560;
 constexpr long kRowHeight = 315;
-constexpr long kLabelWidth = 1140;
+constexpr long kLabelWidth = 1380;
 
 }  // namespace
 
@@ -50,25 +50,25 @@ void frmBookMeeting::placeControls() {
         row.label.Move(kLabelLeft, row.top + 45, kLabelWidth, 255);
     }
     dtPickDate.Format = dtpCustom;
-    dtPickDate.CustomFormat = "DDD d-MMM-yyyy";
-    dtPickDate.Move(kFieldLeft, 720, 2040, kRowHeight);
+    dtPickDate.CustomFormat = "ddd d-MMM-yyyy";
+    dtPickDate.Move(kFieldLeft, 720, 1980, kRowHeight);
     dtPickTime.Format = dtpTime;
-    dtPickTime.Move(3480, 720, 1680, kRowHeight);
+    dtPickTime.Move(3660, 720, 1500, kRowHeight);
     txtLength.Move(kFieldLeft, 1140, 720, kRowHeight);
     cmbLengthUnits.Style = vbComboDropdownList;
-    cmbLengthUnits.Move(2100, 1140, 1080, kRowHeight);
+    cmbLengthUnits.Move(2340, 1140, 1080, kRowHeight);
     cmbLengthUnits.AddItem("min");
     cmbLengthUnits.AddItem("hrs");
-    cmbLocation.Move(kFieldLeft, 1560, 3840, kRowHeight);
+    cmbLocation.Move(kFieldLeft, 1560, 3600, kRowHeight);
     txtDetails.MultiLine = true;
-    txtDetails.Move(kFieldLeft, 1980, 3840, 900);
+    txtDetails.Move(kFieldLeft, 1980, 3600, 900);
     chkRemind.Caption = "Remind me";
-    chkRemind.Move(kLabelLeft, 3030, 1140, kRowHeight);
+    chkRemind.Move(kLabelLeft, 3030, kLabelWidth, kRowHeight);
     DTPicker1.Format = dtpCustom;
-    DTPicker1.CustomFormat = "DDD d-MMM-yyyy";
-    DTPicker1.Move(kFieldLeft, 3030, 2040, kRowHeight);
+    DTPicker1.CustomFormat = "ddd d-MMM-yyyy";
+    DTPicker1.Move(kFieldLeft, 3030, 1980, kRowHeight);
     DTPicker2.Format = dtpTime;
-    DTPicker2.Move(3480, 3030, 1680, kRowHeight);
+    DTPicker2.Move(3660, 3030, 1500, kRowHeight);
     cmdOK.Caption = "&Book";
     cmdOK.Default = true;
     cmdOK.Move(2520, 3600, 1260, 375);

@@ -1,5 +1,7 @@
 // The staff planner on the main window: the grid of the ticked users' events, the
 // list of users beside it and the day's messages.
+#include <algorithm>
+
 #include "config/clsConfigDiary.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
@@ -41,7 +43,11 @@ void clsDiaryScreen::DisplayStaffEvents() {
         GridFillManyDays(form.lvUsers, grid, date, days, location, details, false);
     else
         GridFillOneDay(form.lvUsers, grid, date, location, details, false);
-    ResizeGridColumns(grid);
+    GridWidenSlots(grid);
+    // The day is shown from its first slot, the first user's cell chosen.
+    grid.Row = std::min<long>(2, grid.Rows - 1);
+    grid.Col = 1;
+    grid.LeftCol = 1;
 
     glbMessages.DisplayMessages(glbMessages.fname(), form.lvCat, 1);
     if (glbConfig.ShowShaded == 1) GridShadeEmptyCells(grid);
