@@ -9,6 +9,7 @@
 
 #include "ScriptedPlatform.h"
 #include "TempFolder.h"
+#include "TimeSlots.h"
 #include "config/clsConfigDiary.h"
 #include "controls/FlexGrid.h"
 #include "controls/ListView.h"
@@ -34,11 +35,7 @@ public:
         orbidex::ResetProgramState();
         orbidex::gStrDataPath = folder_.Stored() + "\\";
         orbidex::glbLog.init(orbidex::gStrDataPath + "OX_LOG.log", "", "", true, 0);
-        orbidex::glbConfig.timeSlots = std::make_shared<orbidex::clsTimeSlots>();
-        orbidex::glbConfig.timeSlots->startHr = 9;
-        orbidex::glbConfig.timeSlots->stopHr = 18;
-        orbidex::glbConfig.timeSlots->numSlotsPerHour = 2;
-        orbidex::glbConfig.timeSlots->InitTimeArray();
+        orbidex::test::UseTimeSlots(9, 18, 2);
         orbidex::glbConfig.ShowDetails = 1;
         orbidex::glbConfig.ShowLocation = 1;
         orbidex::glbResultsFile = orbidex::gStrDataPath + "RESULTS.TXT";

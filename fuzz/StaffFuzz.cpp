@@ -9,6 +9,7 @@
 
 #include "ScriptedPlatform.h"
 #include "TempFolder.h"
+#include "TimeSlots.h"
 #include "config/clsConfigDiary.h"
 #include "controls/FlexGrid.h"
 #include "controls/ListView.h"
@@ -27,11 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     orbidex::ResetProgramState();
     orbidex::gLogLevel = -2;
     orbidex::gStrDataPath = folder.Stored() + "\\";
-    orbidex::glbConfig.timeSlots = std::make_shared<orbidex::clsTimeSlots>();
-    orbidex::glbConfig.timeSlots->startHr = 9;
-    orbidex::glbConfig.timeSlots->stopHr = 12;
-    orbidex::glbConfig.timeSlots->numSlotsPerHour = 2;
-    orbidex::glbConfig.timeSlots->InitTimeArray();
+    orbidex::test::UseTimeSlots(9, 12, 2);
     orbidex::glbConfig.ShowTotals = 1;
     orbidex::glbResultsFile = orbidex::gStrDataPath + "RESULTS.TXT";
     orbidex::WriteWholeFile(orbidex::glbResultsFile, std::string(reinterpret_cast<const char*>(data), size));

@@ -4,6 +4,7 @@
 #include "diary/cDiaryRecords.h"
 #include "diary/cDiaryRecurring.h"
 #include "foundation/ProgramState.h"
+#include "network/StaffGrid.h"
 #include "network/cComms.h"
 #include "network/cDiaryComms.h"
 #include "network/cMessages.h"
@@ -40,6 +41,7 @@ void ResetProgramObjects() {
     gListAndDetails = ListAndDetailsDefinition();
     ResetMainForm();
     glbMessages = cMessages();
+    glbStaffCellIds.clear();
     ResetChatForm();
     ResetStickyNote();
     ResetSearchResultsForm();

@@ -5,6 +5,7 @@
 
 #include "EventLines.h"
 #include "ProgramFixture.h"
+#include "TimeSlots.h"
 #include "config/clsConfigDiary.h"
 #include "controls/FlexGrid.h"
 #include "controls/ListView.h"
@@ -32,11 +33,7 @@ class StaffGridTest : public test::ProgramFixture {
 protected:
     void SetUp() override {
         ProgramFixture::SetUp();
-        glbConfig.timeSlots = std::make_shared<clsTimeSlots>();
-        glbConfig.timeSlots->startHr = 9;
-        glbConfig.timeSlots->stopHr = 12;
-        glbConfig.timeSlots->numSlotsPerHour = 2;
-        glbConfig.timeSlots->InitTimeArray();
+        test::UseTimeSlots(9, 12, 2);
         glbConfig.normal_BackColor = 0xF0F4F4;
         glbConfig.spanning_BackColor = 0xC0C0C0;
         glbConfig.multi_BackColor = 0xC0C0FF;

@@ -9,6 +9,7 @@
 
 #include "EventLines.h"
 #include "NetworkFixture.h"
+#include "TimeSlots.h"
 #include "config/clsConfigDiary.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/FileSystem.h"
@@ -63,11 +64,7 @@ protected:
         ServerUp(true);
         NETWORK_STRING = "CLIENT";
         platform_.AllowUnscriptedForms(true);
-        glbConfig.timeSlots = std::make_shared<clsTimeSlots>();
-        glbConfig.timeSlots->startHr = 9;
-        glbConfig.timeSlots->stopHr = 12;
-        glbConfig.timeSlots->numSlotsPerHour = 2;
-        glbConfig.timeSlots->InitTimeArray();
+        test::UseTimeSlots(9, 12, 2);
         glbConfig.DayWeekMonth = 1;
         glbConfig.ShowLocation = 1;
         glbConfig.ShowDetails = 1;
@@ -89,15 +86,6 @@ protected:
         glbScreen.setForm(MainForm());
         glbCmd.init(MainForm());
         MainForm().MonthView1.Value = DateSerial(2004, 6, 5);
-    }
-    std::string Data(const std::string& user) const { return Stored(user + "\\"); }
-    /// The client of `user` from here on: its data folder, its session.
-    void As(const std::string& user) {
-        MakeFolder(Data(user));
-        gStrDataPath = Data(user);
-        glbSavingToServer = false;
-        Connect(user);
-        ASSERT_TRUE(glbServerAlive);
     }
     void Share(const std::string& user, const std::string& level, const std::vector<std::string>& lines) {
         As(user);
