@@ -41,52 +41,34 @@ namespace {
 
 QMessageBox::StandardButtons buttonsOf(int style) {
     switch (style & 7) {
-        case vbOKCancel:
-            return QMessageBox::Ok | QMessageBox::Cancel;
-        case vbAbortRetryIgnore:
-            return QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore;
-        case vbYesNoCancel:
-            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-        case vbYesNo:
-            return QMessageBox::Yes | QMessageBox::No;
-        case vbRetryCancel:
-            return QMessageBox::Retry | QMessageBox::Cancel;
-        default:
-            return QMessageBox::Ok;
+        case vbOKCancel: return QMessageBox::Ok | QMessageBox::Cancel;
+        case vbAbortRetryIgnore: return QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore;
+        case vbYesNoCancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case vbYesNo: return QMessageBox::Yes | QMessageBox::No;
+        case vbRetryCancel: return QMessageBox::Retry | QMessageBox::Cancel;
+        default: return QMessageBox::Ok;
     }
 }
 
 QMessageBox::Icon iconOf(int style) {
     switch (style & 0x70) {
-        case vbCritical:
-            return QMessageBox::Critical;
-        case vbQuestion:
-            return QMessageBox::Question;
-        case vbExclamation:
-            return QMessageBox::Warning;
-        case vbInformation:
-            return QMessageBox::Information;
-        default:
-            return QMessageBox::NoIcon;
+        case vbCritical: return QMessageBox::Critical;
+        case vbQuestion: return QMessageBox::Question;
+        case vbExclamation: return QMessageBox::Warning;
+        case vbInformation: return QMessageBox::Information;
+        default: return QMessageBox::NoIcon;
     }
 }
 
 int answerOf(int button) {
     switch (button) {
-        case QMessageBox::Cancel:
-            return vbCancel;
-        case QMessageBox::Abort:
-            return vbAbort;
-        case QMessageBox::Retry:
-            return vbRetry;
-        case QMessageBox::Ignore:
-            return vbIgnore;
-        case QMessageBox::Yes:
-            return vbYes;
-        case QMessageBox::No:
-            return vbNo;
-        default:
-            return vbOK;
+        case QMessageBox::Cancel: return vbCancel;
+        case QMessageBox::Abort: return vbAbort;
+        case QMessageBox::Retry: return vbRetry;
+        case QMessageBox::Ignore: return vbIgnore;
+        case QMessageBox::Yes: return vbYes;
+        case QMessageBox::No: return vbNo;
+        default: return vbOK;
     }
 }
 
@@ -137,13 +119,10 @@ VbDate QtPlatform::Now() {
     return DateSerial(d.year(), d.month(), d.day()) + TimeSerial(t.hour(), t.minute(), t.second());
 }
 
-double QtPlatform::Rnd() {
-    return QRandomGenerator::global()->generateDouble();
-}
+double QtPlatform::Rnd() { return QRandomGenerator::global()->generateDouble(); }
 
 int QtPlatform::MsgBox(const std::string& prompt, int buttons, const std::string& title) {
-    QMessageBox box(iconOf(buttons), titleOr(title), ToQString(prompt), buttonsOf(buttons),
-                    QApplication::activeWindow());
+    QMessageBox box(iconOf(buttons), titleOr(title), ToQString(prompt), buttonsOf(buttons), QApplication::activeWindow());
     box.setObjectName(QStringLiteral("MsgBox"));  // the name a driver of the program finds it by
     box.setDefaultButton(defaultOf(buttons));
     makeRoomForTitle(box);
@@ -170,9 +149,7 @@ void QtPlatform::SetBusyCursor(bool busy) {
         QApplication::restoreOverrideCursor();
 }
 
-void QtPlatform::DoEvents() {
-    QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-}
+void QtPlatform::DoEvents() { QCoreApplication::processEvents(QEventLoop::AllEvents, 50); }
 
 void QtPlatform::WaitForEvents(int milliseconds) {
     QEventLoop loop;
@@ -180,9 +157,7 @@ void QtPlatform::WaitForEvents(int milliseconds) {
     loop.exec();
 }
 
-void QtPlatform::Beep() {
-    QApplication::beep();
-}
+void QtPlatform::Beep() { QApplication::beep(); }
 
 void QtPlatform::PlaySoundFile(const std::string& storedPath) {
     // No sound library: hand the file to the desktop's player, or beep.
@@ -194,17 +169,11 @@ void QtPlatform::PlaySoundFile(const std::string& storedPath) {
     Beep();
 }
 
-std::string QtPlatform::ClipboardText() {
-    return FromQString(QGuiApplication::clipboard()->text());
-}
+std::string QtPlatform::ClipboardText() { return FromQString(QGuiApplication::clipboard()->text()); }
 
-void QtPlatform::SetClipboardText(const std::string& text) {
-    QGuiApplication::clipboard()->setText(ToQString(text));
-}
+void QtPlatform::SetClipboardText(const std::string& text) { QGuiApplication::clipboard()->setText(ToQString(text)); }
 
-std::string QtPlatform::ProgramFolder() {
-    return ToStoredPath(QCoreApplication::applicationDirPath().toStdString());
-}
+std::string QtPlatform::ProgramFolder() { return ToStoredPath(QCoreApplication::applicationDirPath().toStdString()); }
 
 std::string QtPlatform::ExeName() {
     return QFileInfo(QCoreApplication::applicationFilePath()).fileName().toStdString();
@@ -215,9 +184,7 @@ std::string QtPlatform::UserName() {
     return qEnvironmentVariable("USER").toStdString();
 }
 
-std::string QtPlatform::ComputerName() {
-    return QSysInfo::machineHostName().toStdString();
-}
+std::string QtPlatform::ComputerName() { return QSysInfo::machineHostName().toStdString(); }
 
 bool QtPlatform::AnotherInstanceRunning() {
     // One running copy per program folder: an exclusive lock on a file named after
@@ -227,8 +194,7 @@ bool QtPlatform::AnotherInstanceRunning() {
         QCryptographicHash::hash(QCoreApplication::applicationDirPath().toUtf8(), QCryptographicHash::Sha1).toHex();
     QString dir = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     if (dir.isEmpty()) dir = QDir::tempPath();
-    const QString path =
-        dir + QStringLiteral("/orbidex-") + QString::fromLatin1(key.left(16)) + QStringLiteral(".lock");
+    const QString path = dir + QStringLiteral("/orbidex-") + QString::fromLatin1(key.left(16)) + QStringLiteral(".lock");
     const int fd = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
     if (fd < 0) return false;
     if (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
@@ -290,9 +256,7 @@ QWidget* QtPlatform::windowFor(Form& form) {
     return window.data();
 }
 
-QWidget* QtPlatform::WindowOf(const Form& form) const {
-    return windows_.value(&form).data();
-}
+QWidget* QtPlatform::WindowOf(const Form& form) const { return windows_.value(&form).data(); }
 
 void QtPlatform::ShowModal(Form& form) {
     QWidget* window = windowFor(form);
