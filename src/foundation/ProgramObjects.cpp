@@ -6,6 +6,7 @@
 #include "diary/cDiaryRecords.h"
 #include "diary/cDiaryRecurring.h"
 #include "foundation/ProgramState.h"
+#include "network/StaffGrid.h"
 #include "network/cComms.h"
 #include "network/cDiaryComms.h"
 #include "network/cMessages.h"
@@ -44,6 +45,7 @@ void ResetProgramObjects() {
     ResetScratchPad();
     ResetMainForm();
     glbMessages = cMessages();
+    glbStaffCellIds.clear();
     ResetChatForm();
     ResetStickyNote();
     ResetSearchResultsForm();

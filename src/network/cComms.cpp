@@ -160,18 +160,4 @@ std::string cComms::MakeRandomDiaryRecordAsText(double date) {
     return record.FormatAsText(kFieldDelimiter, true);
 }
 
-// The user lists and meetings are not in this version yet.
-std::string cComms::GetTickedListOfUsers(ListView&) {
-    return "";
-}
-std::string cComms::GetSelectedUsers(Control&, bool) {
-    return "";
-}
-std::string cComms::GetTickedUsers(ListView&) {
-    return "";
-}
-void cComms::ListUsers(Control&, bool) {}
-void cComms::ParseUserItemToList(Control&, const std::string&, bool) {}
-void cComms::MakeMeetingBooking(const cDiaryRecord&, const std::string&) {}
-
 }  // namespace orbidex

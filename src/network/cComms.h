@@ -74,15 +74,24 @@ public:
     /// followed by CR LF, or "".
     std::string WaitForServerData(const std::string& folder, const std::string& file, int seconds);
 
-    // The user lists and meetings; not in this version yet.
+    // The user lists.  A list of users as text: each name followed by ", ".
+    /// The names of every ticked row.
     std::string GetTickedListOfUsers(ListView& list);
+    /// The names of every selected row (list view or list box); a row that holds
+    /// "(you)" only with `includeMe`, and then as the user's own name.
     std::string GetSelectedUsers(Control& list, bool includeMe);
+    /// The names of every ticked row but one that holds "(you)".
     std::string GetTickedUsers(ListView& list);
+    /// Fills a list view (columns "User Name" and, with `showStatus`, "Status") or a
+    /// list box from USERS.TXT: the server's while it answers, else the local copy.
     void ListUsers(Control& list, bool showStatus);
+    /// Adds one line of USERS.TXT ("name,status") to the list.
     void ParseUserItemToList(Control& list, const std::string& line, bool showStatus);
     /// Writes one message for `users` (a user list) into message.txt, logs it as
     /// sent and publishes it.  It neither waits nor reports a failure.
     void TransmitText(const std::string& users, const std::string& text);
+    /// Appends the meeting to ADD.TXT once for each of `users`, publishes it with
+    /// ADD.TXT.OK and tells the booker that the users will hear of it.
     void MakeMeetingBooking(const cDiaryRecord& record, const std::string& users);
 
 private:

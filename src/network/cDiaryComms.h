@@ -5,9 +5,12 @@
 
 #include <string>
 
+#include "foundation/VbDate.h"
+
 namespace orbidex {
 
 class cDiaryRecord;
+class frmClientDiaryMain;
 
 class cDiaryComms {
 public:
@@ -19,6 +22,19 @@ public:
     std::string GetLocalDataPath();
     /// Kept for the interface: false.
     bool CheckLocalResultsFileFirst() { return false; }
+
+    // The staff planner and meetings
+    /// Brings the events of the ticked users from 30 days before `date` to 120 days
+    /// after it into the local RESULTS.TXT (the copy before it kept as
+    /// RESULTS_OLD.TXT).  Within the month of the last request the local copy
+    /// serves, unless `force`; a new month forces a request.  A server that does
+    /// not answer leaves the copy as it was.
+    void GetStaffEvents(VbDate date, bool& force);
+    /// Whether the last GetStaffEvents asked the server in vain.
+    bool StaffServerSilent() const { return staffServerSilent_; }
+    /// Asks for a meeting with the users ticked in the staff planner at the chosen
+    /// slot, books it, and draws the planner anew.
+    void BookMeeting(frmClientDiaryMain& mainWindow);
 
     // Work from other users
     /// One line of _4CLIENT.ADD: the event goes into its month's file under a new
@@ -44,6 +60,10 @@ public:
     void CreateMessageLogEntry(const std::string& user, const std::string& type, const std::string& text);
     /// The message log in the local folder.
     std::string MessageLogFile();
+
+private:
+    std::string staffMonth_;          ///< the month (yyyymm) of the last GetStaffEvents
+    bool staffServerSilent_ = false;  ///< its request went unanswered
 };
 
 extern cDiaryComms glbDiaryComms;

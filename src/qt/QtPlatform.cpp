@@ -134,6 +134,7 @@ double QtPlatform::Rnd() { return QRandomGenerator::global()->generateDouble(); 
 
 int QtPlatform::MsgBox(const std::string& prompt, int buttons, const std::string& title) {
     QMessageBox box(iconOf(buttons), titleOr(title), ToQString(prompt), buttonsOf(buttons), QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("MsgBox"));  // the name a driver of the program finds it by
     box.setDefaultButton(defaultOf(buttons));
     makeRoomForTitle(box);
     const NormalCursorWhileAsking cursor;

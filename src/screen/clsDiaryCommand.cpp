@@ -77,6 +77,11 @@ void clsDiaryCommand::ViewToday() {
     form_->MonthView1.Value = Today();
     const std::string& mode = glbScreen.Mode();
     if (mode == "CALENDAR") glbEvents.CalendarDateClicked(*form_, Today());
+    if (mode == "STAFF") {
+        bool force = true;
+        glbDiaryComms.GetStaffEvents(Today(), force);
+        glbScreen.DisplayStaffEvents();
+    }
     if (mode == "HOME") glbScreen.SwitchMode("HOME");
 }
 
@@ -128,14 +133,8 @@ void clsDiaryCommand::unavailable(const std::string& what) {
     if (form_ != nullptr) form_->status.Panels(1).Text = text;
 }
 
-void clsDiaryCommand::BookMeeting(VbDate, const std::string&) {
-    unavailable("booking a meeting");
-}
 void clsDiaryCommand::ViewYear() {
     unavailable("the annual calendar");
-}
-void clsDiaryCommand::serverRefreshStaffData() {
-    unavailable("the staff planner's data");
 }
 
 }  // namespace orbidex

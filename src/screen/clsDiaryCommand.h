@@ -171,12 +171,20 @@ public:
     /// A note of each dropped file, or one of the dropped text.
     void NoteAddFromDroppedFiles(const DataObject& data);
 
+    // The staff planner and meetings.
+    /// Books a meeting with the users ticked in the staff planner (shown first when
+    /// another mode is on screen), then looks for work from the server at once, so
+    /// that a meeting booked for oneself shows up soon.
+    void BookMeeting(VbDate date, const std::string& time);
+    /// In the staff planner: pings the server and draws the planner from a new request.
+    void serverRefreshStaffData();
+    /// The ticks of lvUsers changed: the planner asks for the users now ticked.
+    void StaffUsersTicked();
+
     // Operations that the program does not have yet.  The menu entries and tool bar
     // buttons that lead only here are disabled; the tree, whose nodes cannot be,
     // reaches them and the status bar says so.
-    void BookMeeting(VbDate date, const std::string& time);
     void ViewYear();
-    void serverRefreshStaffData();
 
     /// A boolean property pair, read and written, with no other effect.
     bool IsMenuTicked() const { return isMenuTicked_; }

@@ -8,6 +8,8 @@
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
+#include "network/cComms.h"
+#include "network/cDiaryComms.h"
 #include "network/cMessages.h"
 #include "pim/cNotes.h"
 #include "pim/cTasks.h"
@@ -55,6 +57,7 @@ void clsDiaryScreen::SwitchMode(const std::string& mode, bool force) {
         return;
     }
     mode_ = upper;
+    glbComms.glbPollFrequently("False");
     if (form_ == nullptr) return;
     frmClientDiaryMain& form = *form_;
 
@@ -219,6 +222,11 @@ void clsDiaryScreen::setUpStaff() {
     showAll({&form.lblHeading, &form.gridDays, &form.MonthView1, &form.lvUsers, &form.lblUsers}, true);
     showAll({&form.lvDiary, &form.lvCat, &form.web, &form.Label1, &form.Label2}, false);
     toolbarForMode("STAFF");
+    glbComms.ListUsers(form.lvUsers, true);
+    glbTickedUsers = glbComms.GetTickedListOfUsers(form.lvUsers);
+    bool force = false;
+    glbDiaryComms.GetStaffEvents(form.MonthView1.Value, force);
+    DisplayStaffEvents();
 }
 
 // The message list fills the main area under its four columns.

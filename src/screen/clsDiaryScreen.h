@@ -45,6 +45,10 @@ public:
     /// The present mode.
     const std::string& Mode() const { return mode_; }
 
+    /// Draws the staff planner from the local results file: the ticked users of
+    /// lvUsers over the days the calendar's selection or the view setting gives.
+    void DisplayStaffEvents();
+
     // Reminders.  The reminder of an event or a task is due when its date is today
     // and its time lies between the last check and now, both included.
     /// Shows every reminder due now that has not been shown yet, and stores the time
@@ -108,6 +112,7 @@ private:
     std::string overviewSources_;
     // What the minute's reminder scan has logged once in this run.
     std::set<std::string> loggedOnce_;
+    bool drawingStaff_ = false;  ///< the staff planner is being drawn
 };
 
 extern clsDiaryScreen glbScreen;

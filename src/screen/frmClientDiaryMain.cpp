@@ -99,6 +99,8 @@ void frmClientDiaryMain::bindControls() {
     lvCat.onDblClick = [this] { lvCat_DblClick(); };
     lvCat.onKeyDown = [this](int& keyCode, int shift) { lvCat_KeyDown(keyCode, shift); };
     lvCat.onColumnClick = [this](ColumnHeader& column) { lvCat_ColumnClick(column); };
+    lvUsers.onItemCheck = [](ListItem&) { glbCmd.StaffUsersTicked(); };
+    lvUsers.onDblClick = [this] { glbMessages.EnterChatMode(*this, ""); };
     imgSplitter.onMouseDown = [this](int b, int s, long x, long y) { imgSplitter_MouseDown(b, s, x, y); };
     imgSplitter.onMouseMove = [this](int b, int s, long x, long y) { imgSplitter_MouseMove(b, s, x, y); };
     imgSplitter.onMouseUp = [this](int b, int s, long x, long y) { imgSplitter_MouseUp(b, s, x, y); };
@@ -182,7 +184,12 @@ void frmClientDiaryMain::Toolbar1_ButtonMenuClick(ButtonMenu& entry) {
 void frmClientDiaryMain::MonthView1_DateClick(VbDate day) {
     glbNumDaysToDisplay = glbConfig.DayWeekMonth;
     // The staff planner draws its own day; everywhere else the calendar moves.
-    if (glbScreen.Mode() == "STAFF") return;
+    if (glbScreen.Mode() == "STAFF") {
+        bool force = false;
+        glbDiaryComms.GetStaffEvents(day, force);
+        glbScreen.DisplayStaffEvents();
+        return;
+    }
     glbEvents.CalendarDateClicked(*this, day);
 }
 

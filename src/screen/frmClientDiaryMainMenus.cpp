@@ -17,16 +17,15 @@ namespace {
 // operation in this version of the program.
 const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
-        "mnuAppPlanMeeting",      "mnuTaskHeadings",      "mnuNotesMenu(3)",   "mnuToolsCalendar",
-        "mnuOptionsDisplay",      "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuBetaServerEnforce",
-        "mnuHelpAbout",
+        "mnuTaskHeadings",      "mnuNotesMenu(3)",      "mnuToolsCalendar",     "mnuOptionsDisplay",
+        "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuBetaServerEnforce", "mnuHelpAbout",
     };
     return names;
 }
 
 const std::set<std::string>& keysWithoutOperation() {
     static const std::set<std::string> keys = {
-        "year", "refresh", "Meeting",
+        "year",
     };
     return keys;
 }
@@ -34,7 +33,7 @@ const std::set<std::string>& keysWithoutOperation() {
 // The modes in which the tool bar's "new" button adds something; in the others it
 // does nothing yet and is disabled.
 bool newAddsIn(const std::string& mode) {
-    return mode == "HOME" || mode == "CALENDAR" || mode == "TASK" || mode == "NOTE";
+    return mode == "HOME" || mode == "CALENDAR" || mode == "TASK" || mode == "NOTE" || mode == "STAFF";
 }
 
 // The modes in which the tool bar's "delete" button deletes the selected item.

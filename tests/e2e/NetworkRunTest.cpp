@@ -2,7 +2,8 @@
 // on, each adds an event that goes to the server, a search for one user's events
 // finds what that user shares, and a server that dies in the middle of a hand-over
 // costs neither client anything.  A message written in one client's chat reaches the
-// other at its next poll, and the answer comes back.
+// other at its next poll, and the answer comes back.  A meeting booked in one
+// client's staff planner reaches the other's diary, and the planner shows it.
 #include <gtest/gtest.h>
 #include <signal.h>
 
@@ -17,6 +18,7 @@
 #include <sstream>
 
 #include "ClientSettings.h"
+#include "EventLines.h"
 #include "ProgramRun.h"
 #include "ScriptedPlatform.h"
 #include "TempFolder.h"
@@ -223,4 +225,70 @@ TEST_F(NetworkRunTest, AMessageReachesTheOtherClientAtItsNextPollAndTheAnswerCom
     EXPECT_TRUE(contains(bob.ReadFile("data/messages.log"), ";TX;alice, ;Yes, two is fine\r\n"));
     EXPECT_EQ(alice.CloseAndWait(), 0);
     EXPECT_EQ(bob.CloseAndWait(), 0);
+}
+
+TEST_F(NetworkRunTest, AMeetingBookedInThePlannerReachesTheOtherClientsDiary) {
+    // What bob, carol and alice share today, as their clients handed it over.
+    const std::string today = QDate::currentDate().toString(QStringLiteral("yyyyMMdd")).toStdString();
+    auto event = [&](const std::string& id, const std::string& time, const std::string& length,
+                     const std::string& place, const std::string& details) {
+        return test::Fields({"D" + today + id, today, "Phone", time, length, "Call", "", "", "", "", "", "", "", place,
+                             details}) +
+               "\r\n";
+    };
+    const std::map<std::string, std::string> shared = {
+        {"alice", event("0001", "1500", "60", "Surgery", "Dentist")},
+        {"bob",
+         event("0001", "0900", "60", "Room 1", "Budget review") + event("0002", "1400", "30", "", "Call the bank")},
+        {"carol",
+         event("0001", "1000", "120", "Hall", "Training course") + event("0002", "1600", "90", "Room 2", "Interviews")},
+    };
+    std::filesystem::create_directory(share_.Native() + "/carol");
+    for (const auto& [user, month] : shared) {
+        std::filesystem::create_directories(share_.Native() + "/.server/" + user + " diary");
+        std::ofstream(share_.Native() + "/.server/" + user + " diary/D" + month_ + ".dat_NET", std::ios::binary)
+            << month;
+    }
+    StartServer();
+    ProgramRun alice(ORBIDEX_CLIENT_EXE);
+    ProgramRun bob(ORBIDEX_CLIENT_EXE);
+    // Their own diaries hold what they share: a month handed back is whole.
+    for (auto [run, user] : {std::pair{&alice, "alice"}, std::pair{&bob, "bob"}}) {
+        std::filesystem::create_directory(run->Folder() + "/data");
+        std::ofstream(run->Folder() + "/data/D" + month_ + ".dat", std::ios::binary) << shared.at(user);
+    }
+    StartClient(alice, "alice");
+    StartClient(bob, "bob");
+
+    // alice plans a meeting from the menu: the planner comes up, then the booking.
+    Drive(alice, {"click mnuAppPlanMeeting", "shot frmBookMeeting screenshots/book-meeting.png Book a Meeting",
+                  "type txtDetails Project kick-off", "click cmdOK", "click MsgBox"});
+    ASSERT_TRUE(waitUntil([&] { return contains(SharedFile("bob/_4CLIENT.ADD"), "Project kick-off"); }))
+        << SharedFile("bob/ADD.TXT");
+    // Her own copy comes back through the server at once.
+    ASSERT_TRUE(alice.WaitForFileContaining("data/D" + month_ + ".dat", "Project kick-off"));
+
+    // bob's diary receives it at his next poll, which answers alice and hands the month back.
+    Drive(bob, {"click mnuServerCheck"});
+    ASSERT_TRUE(bob.WaitForFileContaining("data/D" + month_ + ".dat", "Project kick-off"));
+    EXPECT_TRUE(
+        bob.WaitForFileContaining("data/messages.log", ";EV;alice;added event to your database :Project kick-off"));
+    ASSERT_TRUE(waitUntil([&] { return contains(StoredMonth("bob"), "Project kick-off"); }));
+
+    // alice's next request shows it in bob's row, beside what the others share.
+    Drive(alice, {"click mnuViewRefresh"});
+    ASSERT_TRUE(waitUntil([&] {
+        const std::string results = alice.ReadFile("data/RESULTS.TXT");
+        return results.find("Project kick-off", results.find("user.bob")) != std::string::npos;
+    }));
+    Drive(alice, {"shot frmClientDiaryMain screenshots/staff-day.png Staff Planner"});
+    EXPECT_EQ(alice.CloseAndWait(), 0);
+    EXPECT_EQ(bob.CloseAndWait(), 0);
+
+    std::filesystem::create_directories("screenshots");
+    for (const char* shot : {"book-meeting.png", "staff-day.png"}) {
+        ASSERT_TRUE(alice.Exists(std::string("screenshots/") + shot)) << shot;
+        std::filesystem::copy_file(alice.Folder() + "/screenshots/" + shot, std::string("screenshots/") + shot,
+                                   std::filesystem::copy_options::overwrite_existing);
+    }
 }

@@ -2,7 +2,7 @@
 // end-to-end test, it reads "driver.txt" in the program's working folder, one
 // command a line, and performs each on the program's windows by the names of their
 // controls, as soon as the control is on screen:
-//   click <name>        a menu entry or a button
+//   click <name>        a menu entry or a button ("MsgBox": the message box's first)
 //   type <name> <text>  keys typed into a text box
 //   press <name> <key>  one key ("Return") pressed in a text box
 //   shot <window> <file> [<text>]  a picture of a window, once its title holds the text

@@ -42,14 +42,14 @@ TEST_F(DiaryServerTest, HandedOverFilesGoIntoTheStoreAndOtherWorkStaysWhereItIs)
         HandOver(name, std::string(name) + " bytes\r\n");
     WriteBytes(Mary("D200407.dat_NET"), "no .OK yet\r\n");
     WriteBytes(Mary("D200408.dat_NET.OK"), "a lost file\r\n");
-    for (const char* name : {"ADD.TXT", "_4CLIENT.ADD"}) HandOver(name, "to be routed\r\n");
+    HandOver("_4CLIENT.ADD", "for the client\r\n");
     server_->Poll();
 
     for (const char* name : {"D200406.dat_NET", "D200406.DAT", "D_tasks.dat", "allnotes.dat"})
         EXPECT_EQ(ReadBytes(StoreFolder("mary") + name), std::string(name) + " bytes\r\n") << name;
     EXPECT_EQ(ReadBytes(Mary("SERVER.FIN")), "taken over D_tasks.dat\r\n") << "the last one, in the order of names";
-    EXPECT_EQ(MaryFiles(), (std::vector<std::string>{"ADD.TXT", "ADD.TXT.OK", "D200407.dat_NET", "SERVER.FIN",
-                                                     "USERS.TXT", "_4CLIENT.ADD", "_4CLIENT.ADD.OK"}));
+    EXPECT_EQ(MaryFiles(), (std::vector<std::string>{"D200407.dat_NET", "SERVER.FIN", "USERS.TXT", "_4CLIENT.ADD",
+                                                     "_4CLIENT.ADD.OK"}));
     EXPECT_TRUE(ServerLogged("mary\\D200408.dat_NET.OK stands without its file - removed"));
 }
 
@@ -155,4 +155,37 @@ TEST_F(DiaryServerTest, MessagesAndChangedMeetingsGoToTheUsersTheyNameOneFileAtA
     DeleteFile(Mary("_4CLIENT.MESSAGE"));
     server_->Poll();
     EXPECT_EQ(ReadBytes(Mary("_4CLIENT.MESSAGE")), "20040605 09:30:12\r\nfred\r\nRoom 2\r\n");
+}
+
+TEST_F(DiaryServerTest, EachLineOfABookingGoesToTheUserItNames) {
+    const std::string meeting =
+        test::Fields({"D200406100001", "20040610", "Meeting", "1400", "60", "Meeting request for fred, mary, ", "fred",
+                      "", "", "", "", "", "", "Room 2", "Budget meeting"});
+    const std::string booking = "fred\x1F" + meeting + "\r\n" + "MARY\x1F" + meeting + "\r\n" + "nobody\x1F" + meeting +
+                                "\r\n" + "a line without a user\r\n" + "\x1F" + meeting + "\r\n" + "mary\x1F\r\n";
+    WriteBytes(UserFolder("fred") + "ADD.TXT", booking);
+    // Without its ".OK" the booking may still be written: it waits.
+    server_->Poll();
+    EXPECT_EQ(ReadBytes(UserFolder("fred") + "ADD.TXT"), booking);
+
+    WriteBytes(UserFolder("fred") + "ADD.TXT.OK", "done\r\n");
+    server_->Poll();
+    for (const char* user : {"fred", "mary"}) {
+        EXPECT_EQ(ReadBytes(UserFolder(user) + "_4CLIENT.ADD"), meeting + "\r\n") << user;
+        EXPECT_EQ(ReadBytes(UserFolder(user) + "_4CLIENT.ADD.OK"), std::string("for ") + user + "\r\n");
+    }
+    for (const char* name : {"ADD.TXT", "ADD.TXT.OK"}) EXPECT_FALSE(FileExists(UserFolder("fred") + name)) << name;
+    EXPECT_TRUE(ServerLogged("meeting from fred for MARY"));
+    EXPECT_TRUE(ServerLogged("_4CLIENT.ADD for nobody, who has no folder - dropped"));
+
+    // A second booking waits in the store until mary's client has taken the first.
+    WriteBytes(UserFolder("fred") + "ADD.TXT",
+               "mary\x1F"
+               "second\r\n");
+    WriteBytes(UserFolder("fred") + "ADD.TXT.OK", "done\r\n");
+    server_->Poll();
+    EXPECT_EQ(ReadBytes(Mary("_4CLIENT.ADD")), meeting + "\r\n");
+    DeleteFile(Mary("_4CLIENT.ADD"));
+    server_->Poll();
+    EXPECT_EQ(ReadBytes(Mary("_4CLIENT.ADD")), "second\r\n");
 }

@@ -30,6 +30,14 @@ void NetworkFixture::Connect(const std::string& user) {
     glbComms.InitClient(DataPath());
 }
 
+void NetworkFixture::As(const std::string& user) {
+    MakeFolder(Data(user));
+    gStrDataPath = Data(user);
+    glbSavingToServer = false;
+    Connect(user);
+    ASSERT_TRUE(glbServerAlive);
+}
+
 bool NetworkFixture::LogHas(const std::string& message) const {
     const auto messages = LogMessages();
     return std::find(messages.begin(), messages.end(), message) != messages.end();

@@ -25,6 +25,11 @@ protected:
     void ServerUp(bool up) { serverUp_ = up; }
     /// The settings of `user`'s client, then InitClient as the start-up runs it.
     void Connect(const std::string& user = "fred");
+    /// The data folder of `user`'s client when several clients take turns, ending in "\".
+    std::string Data(const std::string& user) const { return Stored(user + "\\"); }
+    /// The client of `user` from here on: its own data folder, its session, the
+    /// server answering.
+    void As(const std::string& user);
 
     bool LogHas(const std::string& message) const;
     /// The log messages from the first that equals `first` on (all when it is "").

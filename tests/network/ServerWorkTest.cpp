@@ -48,15 +48,6 @@ protected:
         glbConfig.ShowPopupMessages = 1;
         platform_.AllowUnscriptedForms(true);  // the note window and the chat
     }
-    std::string Data(const std::string& user) const { return Stored(user + "\\"); }
-    /// The client of `user` from here on: its data folder, its session.
-    void As(const std::string& user) {
-        MakeFolder(Data(user));
-        gStrDataPath = Data(user);
-        glbSavingToServer = false;
-        Connect(user);
-        ASSERT_TRUE(glbServerAlive);
-    }
     /// The messages of a log without their time, which the moving clock sets.
     std::vector<std::string> Messages(const std::string& user) const {
         std::vector<std::string> lines;

@@ -63,14 +63,14 @@ TEST_F(CommandsTest, GridOrListIsSavedAndShown) {
 
 TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
     StartProgram();
-    for (Menu* entry : {&Form().mnuTaskHeadings, &Form().mnuNotesMenu[3], &Form().mnuAppPlanMeeting})
+    for (Menu* entry : {&Form().mnuTaskHeadings, &Form().mnuNotesMenu[3]})
         EXPECT_FALSE(entry->Enabled) << entry->Name();
     for (Menu* entry : {&Form().mnuFilePrint, &Form().mnuFileExit, &Form().mnuViewMode[2], &Form().mnuViewRefresh,
                         &Form().mnuBetaTest[3], &Form().mnuHelpContents, &Form().mnuAppAdd, &Form().mnuAppRecurring,
                         &Form().mnuPopupGridAdd, &Form().mnuTaskMenu[0], &Form().mnuNotesMenu[5],
                         &Form().mnuBetaReindexTask, &Form().mnuPingServer, &Form().mnuServerLogoff,
                         &Form().mnuFileImport, &Form().mnuFileExport, &Form().mnuBetaTest[0], &Form().mnuOptScrapPaper,
-                        &Form().mnuSearchQuick, &Form().mnuViewSetup})
+                        &Form().mnuSearchQuick, &Form().mnuViewSetup, &Form().mnuAppPlanMeeting})
         EXPECT_TRUE(entry->Enabled) << entry->Name();
 
     // A click on a row asks to enable the notes' entries; the field picker stays off.
@@ -78,7 +78,7 @@ TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
     Form().mnuNotesMenu[3].UserClick();
     EXPECT_FALSE(Form().mnuNotesMenu[3].Enabled);
 
-    // "new" adds where there is something to add: events, tasks and notes.
+    // "new" adds where there is something to add: events, tasks, notes and meetings.
     Toolbar& bar = Form().Toolbar1;
     EXPECT_TRUE(bar.Buttons("Find").Enabled);
     EXPECT_TRUE(bar.Buttons("print").Enabled);
@@ -86,9 +86,9 @@ TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
     EXPECT_TRUE(bar.Buttons("new").ButtonMenus(2)->Enabled);
     for (const char* mode : {"HOME", "CALENDAR", "TASK", "NOTE", "MESSAGE", "STAFF"}) {
         glbScreen.SwitchMode(mode);
-        const bool adds = std::string(mode) != "MESSAGE" && std::string(mode) != "STAFF";
-        EXPECT_EQ(bar.Buttons("new").Enabled(), adds) << mode;
-        EXPECT_EQ(bar.Buttons("delete").Enabled(), adds && std::string(mode) != "HOME") << mode;
+        const std::string m = mode;
+        EXPECT_EQ(bar.Buttons("new").Enabled(), m != "MESSAGE") << mode;
+        EXPECT_EQ(bar.Buttons("delete").Enabled(), m != "MESSAGE" && m != "STAFF" && m != "HOME") << mode;
     }
 }
 
@@ -172,16 +172,16 @@ TEST_F(CommandsTest, TheStaffGridTellsOfItsCells) {
     StartProgram();
     glbScreen.SwitchMode("STAFF");
     FlexGrid& grid = Form().gridDays;
-    grid.Rows = 3;
+    grid.Rows = 4;
     grid.Cols = 3;
-    grid.SetTextMatrix(1, 2, "Meeting with Ann");
-    grid.UserClickCell(1, 2);
+    grid.SetTextMatrix(2, 2, "Meeting with Ann");
+    grid.UserClickCell(2, 2);
     EXPECT_EQ(grid.ToolTipText(), "Meeting with Ann");
     EXPECT_EQ(Panel(2), " Meeting with Ann");
-    grid.Row = 2;
+    grid.Row = 3;
     grid.Col = 2;
     grid.CellBackColor = static_cast<OleColor>(glbConfig.spanning_BackColor);
-    grid.UserClickCell(2, 2);
+    grid.UserClickCell(3, 2);
     EXPECT_EQ(grid.ToolTipText(), "Blank Timeslot BUSY");
 }
 

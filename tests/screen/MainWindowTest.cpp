@@ -190,8 +190,7 @@ TEST_F(MainWindowTest, MenusToolBarAndIcons) {
     ASSERT_NE(print, nullptr);
     EXPECT_TRUE(print->isEnabled());
     EXPECT_EQ(print->shortcut(), QKeySequence(QStringLiteral("Ctrl+P")));
-    EXPECT_FALSE(
-        entry(QStringLiteral("&Appointments"), QStringLiteral("&Plan a Meeting with other users"))->isEnabled());
+    EXPECT_FALSE(entry(QStringLiteral("&Beta"), QStringLiteral("Enforce Confirm save from server"))->isEnabled());
     EXPECT_EQ(entry(QStringLiteral("&View"), QStringLiteral("&Refresh"))->shortcut(),
               QKeySequence(QStringLiteral("F5")));
 

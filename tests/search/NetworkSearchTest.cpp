@@ -2,6 +2,8 @@
 // each owner's sharing level lets through, and nothing more.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "EventLines.h"
 #include "NetworkFixture.h"
 #include "ResultRows.h"
@@ -47,9 +49,13 @@ protected:
         platform_.QueueFormScript("frmInfoSearch", [text, users](Form& f) {
             auto& form = static_cast<frmInfoSearch&>(f);
             form.txtDetails.UserEdit(text, static_cast<long>(text.size()));
-            for (const char* user : {"fred", "mary", "ann"}) form.lvUsers.ListItems.Add(user).Tag = user;
             form.chkLocalFilesOnly.UserClick();
-            for (const std::string& user : users) form.lvUsers.UserCheckItem(*form.lvUsers.FindItem(user), true);
+            // The server's user list, every user ticked at first.
+            EXPECT_EQ(form.lvUsers.ListItems.Count(), 3);
+            for (long i = 1; i <= form.lvUsers.ListItems.Count(); ++i) {
+                ListItem& row = form.lvUsers.ListItems(i);
+                form.lvUsers.UserCheckItem(row, std::find(users.begin(), users.end(), row.Text()) != users.end());
+            }
             form.cmdSearch.UserClick();
         });
         cSearch search;

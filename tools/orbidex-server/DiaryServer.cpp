@@ -200,25 +200,45 @@ std::string DiaryServer::searchResults(const std::string& requestText, const std
     return results;
 }
 
-// A message goes to every user it names, the sender too.  The ".OK" goes before the
-// message is taken: a message the client writes meanwhile is either the one taken,
-// or stands whole with its own ".OK" for the next pass.  Meeting bookings (ADD.TXT)
-// are not routed yet and wait in the folder.
 void DiaryServer::routeWork(const UserFolder& folder) {
-    const std::string confirm = folder.find(sf::kMessageOK);
-    const std::string name = folder.find(sf::kMessage);
-    if (confirm.empty() || name.empty()) return;
-    const std::string taken = StoreFolder(folder.user) + "message.taken";
+    routeMessage(folder);
+    routeBookings(folder);
+}
+
+// A file of work the client publishes with its ".OK": the ".OK" goes before the file
+// is taken, so that a file the client writes meanwhile is either the one taken, or
+// stands whole with its own ".OK" for the next pass.  "" when there is none.
+std::string DiaryServer::takeWork(const UserFolder& folder, std::string_view file, std::string_view confirmFile) {
+    const std::string confirm = folder.find(confirmFile);
+    const std::string name = folder.find(file);
+    if (confirm.empty() || name.empty()) return "";
+    const std::string taken = StoreFolder(folder.user) + std::string(file) + ".taken";
     MakePathAux(StoreFolder(folder.user));
     DeleteFile(folder.path + confirm);
     std::string text;
-    if (!RenameFile(folder.path + name, taken) || !ReadWholeFile(taken, text)) return;
+    if (!RenameFile(folder.path + name, taken) || !ReadWholeFile(taken, text)) text.clear();
+    DeleteFile(taken);
+    return text;
+}
+
+// A message goes to every user it names, the sender too.
+void DiaryServer::routeMessage(const UserFolder& folder) {
+    const std::string text = takeWork(folder, sf::kMessage, sf::kMessageOK);
+    if (text.empty()) return;
     const OutgoingMessage message = ParseMessage(text);
-    if (message.text.empty()) log(folder.user + "\\" + name + " holds no text - dropped");
+    if (message.text.empty()) log(folder.user + "\\" + std::string(sf::kMessage) + " holds no text - dropped");
     for (const std::string& user : message.users)
         if (!message.text.empty() && queueFor(user, sf::kClientMessage, MessageFor(message, folder.user)))
             log("message from " + folder.user + " for " + user);
-    DeleteFile(taken);
+}
+
+// Each line of a booking names one user; the event behind the name goes to that
+// user's _4CLIENT.ADD, the booker's own included.
+void DiaryServer::routeBookings(const UserFolder& folder) {
+    const std::string text = takeWork(folder, sf::kAdd, std::string(sf::kAdd) + std::string(sf::kOK));
+    for (const MeetingBooking& booking : ParseBookings(text))
+        if (queueFor(booking.user, sf::kClientAdd, booking.eventLine + "\r\n"))
+            log("meeting from " + folder.user + " for " + booking.user);
 }
 
 void DiaryServer::routeChangeList(const std::string& sender, const std::string& text) {

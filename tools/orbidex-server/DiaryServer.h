@@ -2,8 +2,8 @@
 // The reference diary server: one step of work over a share folder whose subfolders
 // are the users' folders.  Each Poll() answers pings, takes handed-over files into
 // the server's own store, answers search requests from the network form of the
-// users' months, passes changed meetings and messages on to the users they are
-// for, and keeps every folder's USERS.TXT.  It holds no state between
+// users' months, passes booked and changed meetings and messages on to the users
+// they are for, and keeps every folder's USERS.TXT.  It holds no state between
 // steps that the folders do not hold, so it can be stopped and started at any time.
 
 #include <functional>
@@ -47,6 +47,9 @@ private:
     void answerRequest(const UserFolder& folder);
     std::string searchResults(const std::string& requestText, const std::string& asker) const;
     void routeWork(const UserFolder& folder);
+    std::string takeWork(const UserFolder& folder, std::string_view file, std::string_view confirmFile);
+    void routeMessage(const UserFolder& folder);
+    void routeBookings(const UserFolder& folder);
     void routeChangeList(const std::string& sender, const std::string& text);
     /// Adds `text` to the work waiting in the store for `user`'s file `name`; false
     /// for a user without a folder.

@@ -65,4 +65,15 @@ std::string MessageFor(const OutgoingMessage& message, const std::string& sender
     return message.sent + "\r\n" + sender + "\r\n" + message.text + "\r\n";
 }
 
+std::vector<MeetingBooking> ParseBookings(std::string_view text) {
+    std::vector<MeetingBooking> bookings;
+    for (const std::string& line : SplitLines(text)) {
+        const long mark = InStr(line, "\x1F");
+        if (mark == 0) continue;
+        MeetingBooking booking{Trim(Left(line, mark - 1)), Mid(line, mark + 1)};
+        if (!booking.user.empty() && !Trim(booking.eventLine).empty()) bookings.push_back(std::move(booking));
+    }
+    return bookings;
+}
+
 }  // namespace orbidex::server

@@ -1,7 +1,8 @@
 #pragma once
 // The work one client leaves for others, as the server reads it and passes it on:
 // a change list (_CHANGE_REQUEST.TXT) goes to the other users of each meeting it
-// changes, a message (message.txt) to the users it names.
+// changes, a message (message.txt) to the users it names, a booking (ADD.TXT) to
+// the user each of its lines names.
 
 #include <string>
 #include <string_view>
@@ -38,5 +39,15 @@ struct OutgoingMessage {
 OutgoingMessage ParseMessage(std::string_view text);
 /// The message as the users' clients read it: the time, the sender, the text.
 std::string MessageFor(const OutgoingMessage& message, const std::string& sender);
+
+/// One line of a booking: the user it is for, and the event behind the first
+/// field mark.
+struct MeetingBooking {
+    std::string user;
+    std::string eventLine;
+};
+
+/// The lines of ADD.TXT that name a user and carry an event; any other is passed over.
+std::vector<MeetingBooking> ParseBookings(std::string_view text);
 
 }  // namespace orbidex::server
