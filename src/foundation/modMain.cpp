@@ -55,7 +55,9 @@ void readSettings() {
 // Finds the monthly files and loads the month of today.
 void loadDiary() {
     glbEvents.InitDiary(&MainForm(), gStrIniFile);
-    glbEvents.LoadDiaryData(Today());
+    // The main window's calendar has loaded this month as it was made, unless the data
+    // folder moved or the file changed since.
+    if (!glbEvents.HasLoaded(Today())) glbEvents.LoadDiaryData(Today());
     glbRecurring.fname(gStrDataPath + "recurring.dat");
     glbRecurring.LoadRecurringEvents();
     gCurrentEvent = cDiaryRecord();
