@@ -81,8 +81,9 @@ void ControlWidget::refresh() {
         const int height = model_->Height > 0 ? TwipsToPixels(model_->Height) : hint.height();
         setGeometry(TwipsToPixels(model_->Left), TwipsToPixels(model_->Top), width, height);
     }
-    if (parentWidget() != nullptr) setVisible(model_->Visible);
-    syncFromModel();
+    const bool placed = parentWidget() != nullptr;
+    if (placed) setVisible(model_->Visible);
+    if (!drawnWhenShown_ || !placed || model_->Visible) syncFromModel();
     syncing_ = wasSyncing;
 }
 
