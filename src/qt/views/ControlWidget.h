@@ -85,6 +85,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Takes the model's place, size (when placed by the form) and visibility.
+    void place();
     void onNotice(ViewNotice notice);
     bool mouseEvent(QWidget* part, QEvent* event);
     bool keyEvent(QEvent* event);
