@@ -30,6 +30,7 @@ TEST(DrawnIconTest, AnIconIsDrawnWhenFirstPaintedOnceForEachSize) {
     const QColor disabled = icon.pixmap(QSize(16, 16), QIcon::Disabled).toImage().pixelColor(8, 2);
     EXPECT_EQ(disabled.red(), disabled.green());
     EXPECT_GT(disabled.alpha(), 0);
+    EXPECT_EQ(drawn.size(), 2U) << "from the drawing made already";
 }
 
 TEST(DrawnIconTest, TheTileOfANameIsTheSameIconEveryTimeAndShowsSomething) {

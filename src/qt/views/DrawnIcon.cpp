@@ -14,17 +14,19 @@ void DrawnIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mo
     painter->drawPixmap(rect, pixmap(rect.size(), mode, state));
 }
 
-QPixmap DrawnIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*state*/) {
+QPixmap DrawnIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) {
     if (size.isEmpty()) return {};
     const QString key = QStringLiteral("%1x%2/%3").arg(size.width()).arg(size.height()).arg(int(mode));
     if (const auto it = drawn_.constFind(key); it != drawn_.constEnd()) return *it;
-    QPixmap drawing(size);
-    drawing.fill(Qt::transparent);
-    draw_(drawing);
-    if (mode != QIcon::Normal) {
+    QPixmap drawing;
+    if (mode == QIcon::Normal) {
+        drawing = QPixmap(size);
+        drawing.fill(Qt::transparent);
+        draw_(drawing);
+    } else {
         QStyleOption option;
         option.palette = QApplication::palette();
-        drawing = QApplication::style()->generatedIconPixmap(mode, drawing, &option);
+        drawing = QApplication::style()->generatedIconPixmap(mode, pixmap(size, QIcon::Normal, state), &option);
     }
     drawn_.insert(key, drawing);
     return drawing;
