@@ -77,6 +77,10 @@ public:
     /// The size of the client area that the controls are placed in.
     Property<long> ScaleWidth{this, 0};
     Property<long> ScaleHeight{this, 0};
+    /// The client area's size as the window gave it, or the outer size while no window
+    /// has shown the form yet.
+    long InsideWidth() const { return ScaleWidth > 0 ? static_cast<long>(ScaleWidth) : static_cast<long>(Width); }
+    long InsideHeight() const { return ScaleHeight > 0 ? static_cast<long>(ScaleHeight) : static_cast<long>(Height); }
     Property<int> WindowState{this, vbNormal};  ///< 0 normal, 1 minimised, 2 maximised
     Property<bool> Visible{this, false};
     Property<bool> AlwaysOnTop{this, false};

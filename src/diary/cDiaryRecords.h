@@ -47,6 +47,10 @@ public:
     /// 7 or 14 days crosses a month end.  The selected event stays selected, found
     /// again by its ID; none when it is no longer loaded.
     void LoadDiaryData(VbDate date);
+    /// True when the last load was of `date`, from the file of its month in the data
+    /// folder of now, and that file has not changed on disk since: loading `date`
+    /// again would give what is loaded.
+    bool HasLoaded(VbDate date) const;
     /// Adds the events of the month of `date` behind those loaded.
     void LoadExtraDiaryData(VbDate date);
     /// Full names of the monthly files, from index 1: every file of the data folder

@@ -126,6 +126,11 @@ void cDiaryRecords::LoadDiaryData(VbDate date) {
     platform().SetBusyCursor(false);
 }
 
+bool cDiaryRecords::HasLoaded(VbDate date) const {
+    return gLngWhichMonthIsLoaded == date && gStrFirstDatafile == diaryFileName(date) &&
+           fileStamp_ == stampOf(gStrFirstDatafile);
+}
+
 void cDiaryRecords::LoadExtraDiaryData(VbDate date) {
     if (gBoolExtraDiaryDataLoaded) {
         glbLog.log("WARNING - LoadExtraDiaryData function called for " + FormatDate(date, "yyyy-mm-dd") +

@@ -34,7 +34,7 @@ void layOutDayColumn(FlexGrid& grid, const frmClientDiaryMain& form, VbDate star
     grid.CellFontBold = true;
     if (days == 1) {
         grid.SetColData(col, day);
-        grid.SetColWidth(col, std::max(form.ScaleWidth - grid.Left - grid.CellLeft, kNarrowestDayColumn));
+        grid.SetColWidth(col, std::max(form.InsideWidth() - grid.Left - grid.CellLeft, kNarrowestDayColumn));
         grid.Text = "Details for " + FormatDate(day, "DDD-d-MMM-yyyy");
         grid.SetRowHeight(0, 0);  // lblHeading names the day instead
     } else if (days == 7) {

@@ -40,6 +40,27 @@ std::string findEntryInOtherCase(const std::string& folder, const std::string& n
     return "";
 }
 
+constexpr long long kNanoseconds = 1000000000LL;
+
+FileVersion versionOf(const struct stat& st) {
+    FileVersion version;
+    version.length = static_cast<long long>(st.st_size);
+    version.writtenNs = static_cast<long long>(st.st_mtim.tv_sec) * kNanoseconds + st.st_mtim.tv_nsec;
+    version.changedNs = static_cast<long long>(st.st_ctim.tv_sec) * kNanoseconds + st.st_ctim.tv_nsec;
+    version.device = static_cast<unsigned long long>(st.st_dev);
+    version.inode = static_cast<unsigned long long>(st.st_ino);
+    return version;
+}
+
+// A moment of the system's clock as a VB date in local time, to the second.
+bool localDateOf(std::time_t seconds, VbDate& date) {
+    std::tm local{};
+    if (localtime_r(&seconds, &local) == nullptr) return false;
+    date = DateSerial(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday) +
+           TimeSerial(local.tm_hour, local.tm_min, local.tm_sec);
+    return true;
+}
+
 std::string joinNative(const std::string& folder, const std::string& name) {
     if (folder.empty()) return name;
     if (folder.back() == '/') return folder + name;
@@ -149,12 +170,21 @@ bool FileTimeStamp(std::string_view storedPath, VbDate& stamp) {
     struct stat st {};
     const std::string native = ToNativePath(storedPath);
     if (::stat(native.c_str(), &st) != 0) return false;
-    std::tm local{};
-    const std::time_t seconds = st.st_mtim.tv_sec;
-    if (localtime_r(&seconds, &local) == nullptr) return false;
-    stamp = DateSerial(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday) +
-            TimeSerial(local.tm_hour, local.tm_min, local.tm_sec);
+    return localDateOf(st.st_mtim.tv_sec, stamp);
+}
+
+bool FileVersionOf(std::string_view storedPath, FileVersion& version) {
+    struct stat st {};
+    const std::string native = ToNativePath(storedPath);
+    if (::stat(native.c_str(), &st) != 0 || !S_ISREG(st.st_mode)) return false;
+    version = versionOf(st);
     return true;
+}
+
+VbDate LastTouched(const FileVersion& version) {
+    VbDate touched = 0;
+    localDateOf(static_cast<std::time_t>(std::max(version.writtenNs, version.changedNs) / kNanoseconds), touched);
+    return touched;
 }
 
 std::vector<std::string> ListFolder(std::string_view storedPattern, bool includeFolders) {
@@ -178,6 +208,11 @@ std::vector<std::string> ListFolder(std::string_view storedPattern, bool include
 }
 
 bool ReadWholeFile(std::string_view storedPath, std::string& bytes) {
+    FileVersion version;
+    return ReadWholeFile(storedPath, bytes, version);
+}
+
+bool ReadWholeFile(std::string_view storedPath, std::string& bytes, FileVersion& version) {
     const std::string native = ToNativePath(storedPath);
     // Without blocking, so that a pipe or a device of that name is refused, not waited on.
     const int fd = ::open(native.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
@@ -187,6 +222,7 @@ bool ReadWholeFile(std::string_view storedPath, std::string& bytes) {
         ::close(fd);
         return false;
     }
+    version = versionOf(st);
     // One read of the size the file has, then on until the end, in case it grew.
     bool ok = true;
     size_t length = 0;

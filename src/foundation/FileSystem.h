@@ -38,6 +38,22 @@ long long FileLength(std::string_view storedPath);
 /// Last-written time of a file or folder, in local time; false when it is missing.
 bool FileTimeStamp(std::string_view storedPath, VbDate& stamp);
 
+/// What tells one version of a file from another without reading it: its length,
+/// its last-written and last-changed times to the nanosecond, and where it lies on
+/// its disk (a file replaced whole lies elsewhere, even with the same times).
+struct FileVersion {
+    long long length = -1;
+    long long writtenNs = 0;  ///< since 1970, as the file system keeps it
+    long long changedNs = 0;
+    unsigned long long device = 0;
+    unsigned long long inode = 0;
+    bool operator==(const FileVersion&) const = default;
+};
+/// The version of a plain file; false when there is none.
+bool FileVersionOf(std::string_view storedPath, FileVersion& version);
+/// The later of the version's two times, in local time, to the second.
+VbDate LastTouched(const FileVersion& version);
+
 /// Names (not paths) of the entries of a folder that match the pattern at the end of
 /// `storedPattern` ("C:\data\D*.dat"), in the order of the folder, without "." and "..".
 /// With `includeFolders` folders are listed too, otherwise only plain files.
@@ -52,6 +68,8 @@ struct FileError {
 
 /// The whole file as bytes; false on any failure.
 bool ReadWholeFile(std::string_view storedPath, std::string& bytes);
+/// The same, and the version of the file the bytes were read from.
+bool ReadWholeFile(std::string_view storedPath, std::string& bytes, FileVersion& version);
 /// Replaces the file's content with `bytes`, so that at every moment the file holds
 /// either its old content or the whole new one: the bytes go to a temporary file in
 /// the same folder, reach the disk, and that file is renamed over the name.  A write

@@ -55,7 +55,9 @@ void readSettings() {
 // Finds the monthly files and loads the month of today.
 void loadDiary() {
     glbEvents.InitDiary(&MainForm(), gStrIniFile);
-    glbEvents.LoadDiaryData(Today());
+    // The main window's calendar has loaded this month as it was made, unless the data
+    // folder moved or the file changed since.
+    if (!glbEvents.HasLoaded(Today())) glbEvents.LoadDiaryData(Today());
     glbRecurring.fname(gStrDataPath + "recurring.dat");
     glbRecurring.LoadRecurringEvents();
     gCurrentEvent = cDiaryRecord();
@@ -90,6 +92,9 @@ void buildMainWindow() {
     glbLog.log("TOK - mainForm.SwitchMode CALENDAR", 0);
     // A user who hides the calendar from the main screen starts on the overview.
     if (glbConfig.ShowCalendar == 0) glbScreen.SwitchMode("HOME");
+    // The window opens where it was left, once its first view is drawn: it is made
+    // once, with what it shows.  A client's session with the server comes after it.
+    MainForm().Show(false);
 }
 
 // A client's session with the server begins here.

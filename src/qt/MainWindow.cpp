@@ -1,5 +1,7 @@
 #include "qt/MainWindow.h"
 
+#include <QCalendarWidget>
+
 #include "qt/ProgramIcons.h"
 #include "qt/views/ControlWidget.h"
 #include "screen/frmClientDiaryMain.h"
@@ -11,6 +13,17 @@ MainWindow::MainWindow(frmClientDiaryMain& form, QWidget* parent) : FormWindow(f
     if (ControlWidget* splitter = viewOf(form.imgSplitter)) splitter->setCursor(Qt::SplitHCursor);
     if (ControlWidget* splitter = viewOf(form.imgVert)) splitter->setCursor(Qt::SplitVCursor);
     UseProgramIcons(*this);
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+    FormWindow::showEvent(event);
+    // Unless the program chose a control, the month calendar has the keyboard, so that
+    // the arrow keys move from day to day as soon as the window is there.
+    auto* form = static_cast<frmClientDiaryMain*>(this->form());
+    if (form == nullptr || form->ActiveControl() != nullptr) return;
+    if (ControlWidget* view = viewOf(form->MonthView1)) {
+        if (auto* calendar = view->findChild<QCalendarWidget*>()) calendar->setFocus(Qt::OtherFocusReason);
+    }
 }
 
 }  // namespace orbidex

@@ -13,6 +13,9 @@ class MainWindow : public FormWindow {
     Q_OBJECT
 public:
     explicit MainWindow(frmClientDiaryMain& form, QWidget* parent = nullptr);
+
+protected:
+    void showEvent(QShowEvent* event) override;
 };
 
 }  // namespace orbidex

@@ -4,11 +4,14 @@
 #include <QActionEvent>
 #include <QFile>
 #include <QHash>
+#include <QImageReader>
+#include <QPainter>
 #include <QPointer>
 #include <QStyledItemDelegate>
 #include <QToolBar>
 #include <QTreeWidget>
 
+#include "qt/views/DrawnIcon.h"
 #include "qt/views/ListViewWidget.h"
 #include "qt/views/ViewSupport.h"
 
@@ -62,6 +65,17 @@ constexpr ThemeName kThemeNames[] = {
 
 QString bundledFile(const QString& name) {
     return QStringLiteral(":/icons/%1.svg").arg(name);
+}
+
+// The program's drawing, read when a view first paints it at the size it paints.
+QIcon bundledIcon(const QString& file) {
+    return DrawnIcon([file](QPixmap& canvas) {
+        QImageReader reader(file);
+        reader.setScaledSize(canvas.size());
+        const QImage drawing = reader.read();
+        QPainter painter(&canvas);
+        painter.drawImage(0, 0, drawing);
+    });
 }
 
 // The tiles the views draw for the program's names, by the key of their icon.
@@ -163,7 +177,7 @@ QIcon ProgramIcon(const std::string& name) {
     const QString key = QString::fromStdString(name).toLower();
     if (const auto it = cache.constFind(key); it != cache.constEnd()) return *it;
     QIcon icon = IconNamed(name);
-    if (QFile::exists(bundledFile(key))) icon = QIcon(bundledFile(key));
+    if (QFile::exists(bundledFile(key))) icon = bundledIcon(bundledFile(key));
     for (const ThemeName& entry : kThemeNames)
         if (key == QLatin1String(entry.image)) icon = QIcon::fromTheme(QLatin1String(entry.theme), icon);
     cache.insert(key, icon);

@@ -37,8 +37,6 @@ void clsDiaryScreen::drawForm(frmClientDiaryMain& form) {
     CreateToolbarButtons(glbConfig.ShowToolbarText == "1");
     drawStatusBar();
     glbConfig.GetFormSettings(form, gStrIniFile, true);
-    // The window opens where it was left, then draws its first view.
-    form.Show(false);
     InitDiaryScreen();
 }
 

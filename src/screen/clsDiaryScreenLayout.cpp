@@ -38,8 +38,8 @@ long clampTo(long value, long low, long high) {
 // The client area less the tool bar along the top and the status bar along the bottom.
 Area clientArea(const frmClientDiaryMain& form) {
     Area area;
-    area.right = form.ScaleWidth > 0 ? static_cast<long>(form.ScaleWidth) : static_cast<long>(form.Width);
-    area.bottom = form.ScaleHeight > 0 ? static_cast<long>(form.ScaleHeight) : static_cast<long>(form.Height);
+    area.right = form.InsideWidth();
+    area.bottom = form.InsideHeight();
     if (form.Toolbar1.Visible) area.top = form.Toolbar1.Height;
     if (form.status.Visible) area.bottom -= form.status.Height;
     return area;

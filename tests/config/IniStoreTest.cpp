@@ -1,11 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <filesystem>
+#include <fstream>
 #include <string>
 
 #include "ProgramFixture.h"
 #include "config/IniDocument.h"
 #include "config/PrivateProfile.h"
 #include "foundation/FileSystem.h"
+#include "foundation/VbDate.h"
 
 using namespace orbidex;
 using namespace std::string_literals;
@@ -128,4 +132,76 @@ TEST_F(PrivateProfileTest, AFolderWhereTheFileShouldBeIsNeitherReadNorHarmed) {
     EXPECT_EQ(read("a", "k", value), 7);
     EXPECT_FALSE(WritePrivateProfileString("a", "k", "1", file_));
     EXPECT_TRUE(FolderExists(file_));
+}
+
+// The file parsed is kept for the next read only while the file stays the same and its
+// time stamps were settled, seconds behind the clock, when it was read.
+class ParsedSettingsTest : public PrivateProfileTest {
+protected:
+    // Writes the file and sets the clock `seconds` after its time stamps.
+    void writeSettled(const std::string& bytes, int seconds = 10) {
+        WriteBytes(file_, bytes);
+        FileVersion version;
+        ASSERT_TRUE(FileVersionOf(file_, version));
+        platform_.SetNow(LastTouched(version) + TimeSerial(0, 0, seconds));
+    }
+    // Reads `key` of [a] `times` times; the number of times the file was parsed.
+    long parsesOf(int times, const std::string& key, std::string& value) {
+        const long before = IniFileReads();
+        for (int i = 0; i < times; ++i) read("a", key, value);
+        return IniFileReads() - before;
+    }
+    std::string native() const { return ToNativePath(file_); }
+    void setWritten(std::filesystem::file_time_type written) const {
+        std::filesystem::last_write_time(native(), written);
+    }
+};
+
+TEST_F(ParsedSettingsTest, ASettledFileIsParsedOnceForManyReads) {
+    writeSettled("[a]\r\nk=one\r\n");
+    std::string value;
+    EXPECT_EQ(parsesOf(50, "k", value), 1);
+    EXPECT_EQ(value, "one");
+    EXPECT_EQ(parsesOf(5, "missing", value), 0) << "a missing key is looked up in the parse kept";
+    EXPECT_EQ(value, "default");
+}
+
+TEST_F(ParsedSettingsTest, AFileWrittenSecondsBeforeTheReadIsParsedAtEveryRead) {
+    // Its time stamps may not tell this write from the next one within their tick.
+    writeSettled("[a]\r\nk=one\r\n", 2);
+    std::string value;
+    EXPECT_EQ(parsesOf(3, "k", value), 3);
+    writeSettled("[a]\r\nk=one\r\n", 3);
+    EXPECT_EQ(parsesOf(3, "k", value), 1);
+}
+
+TEST_F(ParsedSettingsTest, EveryChangeByAnotherProgramIsSeenAtTheNextRead) {
+    writeSettled("[a]\r\nk=one\r\n");
+    std::string value;
+    read("a", "k", value);
+    const auto written = std::filesystem::last_write_time(native());
+
+    // Rewritten in place with another length.
+    std::ofstream(native(), std::ios::binary | std::ios::trunc) << "[a]\r\nk=three\r\n";
+    read("a", "k", value);
+    EXPECT_EQ(value, "three");
+
+    // The same length, only the time differs.
+    std::ofstream(native(), std::ios::binary | std::ios::trunc) << "[a]\r\nk=fours\r\n";
+    setWritten(written + std::chrono::nanoseconds(1));
+    read("a", "k", value);
+    EXPECT_EQ(value, "fours");
+
+    // Replaced by another file of the same length and time.
+    const std::string other = native() + ".new";
+    std::ofstream(other, std::ios::binary) << "[a]\r\nk=fives\r\n";
+    std::filesystem::last_write_time(other, written + std::chrono::nanoseconds(1));
+    std::filesystem::rename(other, native());
+    read("a", "k", value);
+    EXPECT_EQ(value, "fives");
+
+    // Gone.
+    std::filesystem::remove(native());
+    read("a", "k", value);
+    EXPECT_EQ(value, "default");
 }

@@ -68,6 +68,22 @@ TEST_F(MonthlyFileTest, AFileChangedOnDiskOrSavedIsReloadedForTheCalendarsDate) 
     EXPECT_EQ(gIntTotalEvents, 2);
 }
 
+TEST_F(MonthlyFileTest, WhatIsLoadedIsKnownUntilTheFileOrTheDataFolderChanges) {
+    WriteLines("D200406.dat", {EventLine("D200406050001", "20040605", "0900", "First")});
+    EXPECT_FALSE(glbEvents.HasLoaded(June(5))) << "nothing loaded yet";
+    glbEvents.LoadDiaryData(June(5));
+    EXPECT_TRUE(glbEvents.HasLoaded(June(5)));
+    EXPECT_FALSE(glbEvents.HasLoaded(June(6))) << "another day of the month is another load";
+
+    AppendToFile(Data("D200406.dat"), EventLine("D200406050002", "20040605", "1000", "Second") + "\r\n");
+    EXPECT_FALSE(glbEvents.HasLoaded(June(5)));
+    glbEvents.LoadDiaryData(June(5));
+    EXPECT_TRUE(glbEvents.HasLoaded(June(5)));
+
+    gStrDataPath = DataPath() + "elsewhere\\";
+    EXPECT_FALSE(glbEvents.HasLoaded(June(5))) << "the month's file is now another one";
+}
+
 TEST_F(MonthlyFileTest, ViewsOfSevenAndFourteenDaysLoadTheNeighbouringMonthWhenTheyCrossItsEnd) {
     WriteLines("D200405.dat", {EventLine("D200405010001", "20040501", "0900", "May")});
     WriteLines("D200406.dat", {EventLine("D200406010001", "20040601", "0900", "June")});

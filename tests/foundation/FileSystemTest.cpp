@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <chrono>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 
 #include "TempFolder.h"
 #include "foundation/FileSystem.h"
+#include "foundation/VbDate.h"
 
 using namespace orbidex;
 using orbidex::test::TempFolder;
@@ -22,6 +25,15 @@ std::vector<std::string> namesIn(const TempFolder& folder) {
 
 void touch(const std::string& native, const std::string& bytes = "x") {
     std::ofstream(native, std::ios::binary) << bytes;
+}
+
+// A file's time as the program's clock gives it: local time, to the second.
+VbDate Date(fs::file_time_type written) {
+    const std::time_t seconds = std::chrono::system_clock::to_time_t(std::chrono::file_clock::to_sys(written));
+    std::tm local{};
+    localtime_r(&seconds, &local);
+    return DateSerial(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday) +
+           TimeSerial(local.tm_hour, local.tm_min, local.tm_sec);
 }
 
 }  // namespace
@@ -106,6 +118,32 @@ TEST(FileSystem, FoldersAndMissingFilesFailQuietly) {
     VbDate stamp = 0;
     EXPECT_FALSE(FileTimeStamp(t.Stored() + "\\missing.txt", stamp));
     EXPECT_TRUE(FileTimeStamp(t.Stored(), stamp));
+}
+
+TEST(FileSystem, AFileVersionChangesWithEveryWriteAndOnlyThen) {
+    TempFolder t;
+    const std::string file = t.Stored() + "\\Orbidex.ini";
+    touch(t.Native() + "/orbidex.ini", "[a]\r\n");
+    FileVersion first;
+    ASSERT_TRUE(FileVersionOf(t.Stored() + "\\ORBIDEX.INI", first)) << "names match without regard to case";
+    EXPECT_EQ(first.length, 5);
+    FileVersion again;
+    std::string bytes;
+    ASSERT_TRUE(ReadWholeFile(file, bytes, again));
+    EXPECT_EQ(bytes, "[a]\r\n");
+    EXPECT_EQ(again, first) << "reading leaves the version as it was";
+    EXPECT_EQ(LastTouched(first), Date(fs::last_write_time(t.Native() + "/orbidex.ini")));
+
+    // The same bytes written again make another version: the file was replaced.
+    ASSERT_TRUE(WriteWholeFile(file, "[a]\r\n"));
+    FileVersion rewritten;
+    ASSERT_TRUE(FileVersionOf(file, rewritten));
+    EXPECT_NE(rewritten, first);
+    EXPECT_EQ(rewritten.length, first.length);
+
+    FileVersion none;
+    EXPECT_FALSE(FileVersionOf(t.Stored() + "\\missing.ini", none));
+    EXPECT_FALSE(FileVersionOf(t.Stored(), none)) << "a folder has no version";
 }
 
 TEST(FileSystem, ARewriteReplacesTheFileWholeAndKeepsItsPermissionsAndLinks) {

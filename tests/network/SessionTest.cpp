@@ -2,6 +2,8 @@
 // the keep-alive, and what the main window shows of it.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "ClientSettings.h"
 #include "NetworkFixture.h"
 #include "config/clsConfigDiary.h"
@@ -215,4 +217,24 @@ TEST_F(SessionTest, AClientStartLogsOnAndShowsTheConnectionAndTheServerMenuActs)
     form.mnuServerLoggon.UserClick();
     EXPECT_TRUE(FileExists(UserFolder("fred") + "DEAD.TXT"));
     EXPECT_TRUE(FileExists(UserFolder("fred") + "ALIVE.TXT"));
+}
+
+TEST_F(SessionTest, AClientWhoseServerDoesNotAnswerWaitsWithItsWindowUp) {
+    WriteBytes(DataPath() + "orbidex.ini", test::ClientSettingsFile(folder_.Stored(), UserFolder("fred"), 3));
+    platform_.AllowUnscriptedForms(true);
+    ServerUp(false);
+    // The pumps of events from the start of the session on, and whether the window was up.
+    std::vector<bool> windowUpAtPump;
+    platform_.AddDoEventsHook([&] {
+        const auto messages = LogMessages();
+        if (std::find(messages.begin(), messages.end(), "NETWORK_STRING = CLIENT") == messages.end()) return;
+        const auto shown = platform_.FormsShown();
+        windowUpAtPump.push_back(std::find(shown.begin(), shown.end(), "frmClientDiaryMain") != shown.end());
+    });
+    const VbDate start = platform_.Now();
+    modMain("CLIENT");
+    EXPECT_FALSE(glbServerAlive);
+    EXPECT_GE(SecondsSince(start), 3) << "the ping waited its 3 seconds";
+    ASSERT_GE(windowUpAtPump.size(), 3U);
+    EXPECT_EQ(std::count(windowUpAtPump.begin(), windowUpAtPump.end(), false), 0);
 }

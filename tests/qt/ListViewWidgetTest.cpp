@@ -105,6 +105,28 @@ TEST_F(ListViewWidgetTest, TicksAndHeadingClicksReachTheModel) {
     EXPECT_EQ(column, 2);
 }
 
+TEST_F(ListViewWidgetTest, AListKeptHiddenInAWindowShowsWhatItHoldsWhenItIsShown) {
+    QWidget window;
+    ListView hidden{"lvDiary"};
+    hidden.ColumnHeaders.Add("Event", 2000);
+    hidden.Visible = false;
+    ListViewWidget placed(hidden, &window);
+    window.show();
+    for (const char* event : {"Dentist", "Lunch"}) hidden.ListItems.Add(event);
+    hidden.ListItems(1).Text = "Dentist at nine";
+    test::ProcessEvents();
+    EXPECT_FALSE(placed.isVisible());
+
+    hidden.Visible = true;
+    test::ProcessEvents();
+    ASSERT_TRUE(placed.isVisible());
+    ASSERT_NE(placed.itemView(), nullptr);
+    QAbstractItemModel& shown = *placed.itemView()->model();
+    ASSERT_EQ(shown.rowCount(), 2);
+    EXPECT_EQ(shown.index(0, 0).data().toString(), QStringLiteral("Dentist at nine"));
+    EXPECT_EQ(shown.headerData(0, Qt::Horizontal).toString(), QStringLiteral("Event"));
+}
+
 TEST_F(ListViewWidgetTest, TheIconStyleShowsAFieldOfIcons) {
     lv.View = lvwIcon;
     lv.ListItems(1).Icon = "overview";

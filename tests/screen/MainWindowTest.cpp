@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QImage>
 #include <QLabel>
 #include <QMenuBar>
@@ -110,6 +111,11 @@ protected:
 
 TEST_F(MainWindowTest, TheUserBrowsesTheDiaryByDayWeekFortnightAndMonth) {
     EXPECT_EQ(window().windowTitle(), QStringLiteral("Events - Brindlewick Software's Orbidex"));
+    // The month calendar has the keyboard when the window opens.
+    bool calendarHasFocus = false;
+    for (QWidget* w = QApplication::focusWidget(); w != nullptr; w = w->parentWidget())
+        calendarHasFocus = calendarHasFocus || qobject_cast<QCalendarWidget*>(w) != nullptr;
+    EXPECT_TRUE(calendarHasFocus);
     EXPECT_EQ(heading(), "  Events for Saturday, 5-Jun-2004");
     EXPECT_EQ(panel(1), "Viewing 5-Jun-04 ");
     EXPECT_EQ(panel(2), "2 hr 0 min   spent on 2 events  ");

@@ -3,8 +3,10 @@
 
 #include <algorithm>
 
+#include "EventLines.h"
 #include "MainScreenFixture.h"
 #include "config/clsConfigDiary.h"
+#include "controls/FlexGrid.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbString.h"
 #include "pim/cNotes.h"
@@ -64,4 +66,26 @@ TEST_F(StartUpTest, TasksAndNotesAreLoadedBeforeTheWindowAndCountedOnIt) {
     EXPECT_EQ(Panel(1), "2 of 3 Tasks shown");
     glbScreen.SwitchMode("NOTE");
     EXPECT_EQ(Panel(1), "1 Notes");
+}
+
+TEST_F(StartUpTest, ThisMonthIsLoadedOnceAndTheWindowShowsWithItsFirstViewDrawn) {
+    WriteBytes(Stored("data\\D200406.dat"), test::EventLine("D200406050001", "20040605", "0900", "Dentist") + "\r\n");
+    // What the window shows when it comes up.
+    std::string modeShown;
+    bool eventShown = false;
+    platform_.QueueFormScript("frmClientDiaryMain", [&](orbidex::Form&) {
+        modeShown = glbScreen.Mode();
+        const FlexGrid& grid = MainForm().gridDays;
+        for (long row = 0; row < grid.Rows; ++row)
+            for (long col = 0; col < grid.Cols; ++col)
+                eventShown = eventShown || grid.TextMatrix(row, col).find("Dentist") != std::string::npos;
+    });
+    StartProgram();
+    EXPECT_EQ(modeShown, "CALENDAR");
+    EXPECT_TRUE(eventShown);
+    const auto messages = LogMessages();
+    EXPECT_EQ(std::count(messages.begin(), messages.end(),
+                         "LoadDiaryData loaded 1 records from " + Stored("data\\D200406.dat")),
+              1);
+    EXPECT_EQ(platform_.FormsShown(), std::vector<std::string>{"frmClientDiaryMain"});
 }

@@ -37,6 +37,17 @@ TEST_F(TimeGridTest, TheDayViewHasARowPerHalfHourLabelledByHourAndMinutes) {
     EXPECT_EQ(grid.RowHeight(0), 0);
     EXPECT_EQ(MainForm().lblHeading.Caption(), "  Events for Monday, 7-Jun-2004");
 
+    // The day's column fills the window's inside; before a window has shown the form,
+    // the size the form is given.
+    frmClientDiaryMain& form = MainForm();
+    form.Width = 12000;
+    form.ScaleWidth = 0;
+    Draw(June(7));
+    EXPECT_EQ(grid.ColWidth(2), 12000 - grid.Left - grid.ColWidth(0) - grid.ColWidth(1));
+    form.ScaleWidth = 9000;
+    Draw(June(7));
+    EXPECT_EQ(grid.ColWidth(2), 9000 - grid.Left - grid.ColWidth(0) - grid.ColWidth(1));
+
     Settings({{"timeslots", "StartTime", "0"}, {"timeslots", "numTimeSlotPerHour", "1"}});
     Draw(June(7));
     EXPECT_EQ(std::make_tuple(grid.Rows(), Text(1, 0), grid.RowHeight(1)),

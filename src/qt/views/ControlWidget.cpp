@@ -43,7 +43,11 @@ ControlWidget::DragScope::~DragScope() { gDragged = nullptr; }
 
 void ControlWidget::setPlacedByForm(bool placed) {
     placedByForm_ = placed;
-    refresh();
+    if (model_ == nullptr) return;
+    const bool wasSyncing = syncing_;
+    syncing_ = true;
+    place();  // what the view draws was drawn as it was made
+    syncing_ = wasSyncing;
 }
 
 void ControlWidget::setInner(QWidget* inner, QWidget* mousePart, QWidget* keyPart) {
@@ -75,6 +79,12 @@ void ControlWidget::refresh() {
     syncing_ = true;
     setEnabled(model_->Enabled);
     setToolTip(ToQString(model_->ToolTipText));
+    place();
+    if (!drawnWhenShown_ || parentWidget() == nullptr || model_->Visible) syncFromModel();
+    syncing_ = wasSyncing;
+}
+
+void ControlWidget::place() {
     if (placedByForm_) {
         const QSize hint = sizeHint();
         const int width = model_->Width > 0 ? TwipsToPixels(model_->Width) : hint.width();
@@ -82,8 +92,6 @@ void ControlWidget::refresh() {
         setGeometry(TwipsToPixels(model_->Left), TwipsToPixels(model_->Top), width, height);
     }
     if (parentWidget() != nullptr) setVisible(model_->Visible);
-    syncFromModel();
-    syncing_ = wasSyncing;
 }
 
 void ControlWidget::onNotice(ViewNotice notice) {

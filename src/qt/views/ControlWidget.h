@@ -67,6 +67,10 @@ protected:
     /// Changes of the model are drawn once the program returns to the event loop
     /// (or lets it run), all together: for lists that the program fills item by item.
     void setDeferredRefresh(bool on) { deferred_ = on; }
+    /// While the model is hidden its changes are not drawn; the view draws the model
+    /// whole when it is shown: for views that are costly to fill (lists, trees) and
+    /// that a mode or a setting may keep hidden for good.
+    void setDrawnWhenShown(bool on) { drawnWhenShown_ = on; }
     /// True while the view draws the model: widget signals then come from the
     /// program, not from the user.
     bool syncing() const { return syncing_; }
@@ -83,6 +87,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Takes the model's place, size (when placed by the form) and visibility.
+    void place();
     void onNotice(ViewNotice notice);
     bool mouseEvent(QWidget* part, QEvent* event);
     bool keyEvent(QEvent* event);
@@ -98,6 +104,7 @@ private:
     bool ownMouse_ = false;
     bool syncing_ = false;
     bool deferred_ = false;
+    bool drawnWhenShown_ = false;
     bool refreshPending_ = false;
     QPoint pressPos_;
     bool pressed_ = false;

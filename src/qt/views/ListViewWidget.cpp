@@ -110,6 +110,7 @@ private:
 ListViewWidget::ListViewWidget(ListView& control, QWidget* parent)
     : ControlWidget(control, parent), list_(control), items_(new ListViewItemModel(control, *this)) {
     setDeferredRefresh(true);
+    setDrawnWhenShown(true);
     refresh();
 }
 

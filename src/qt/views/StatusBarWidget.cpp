@@ -38,6 +38,10 @@ void StatusBarWidget::rebuild() {
 
 void StatusBarWidget::syncFromModel() {
     if (shownVersion_ != status_.StructureVersion()) rebuild();
+    // The bar's font first: a panel as wide as its text is measured in it.
+    strip_->setAutoFillBackground(true);
+    applyColors(strip_, QPalette::Window, QPalette::WindowText);
+    applyFont(strip_);
     while (QLayoutItem* item = layout_->takeAt(0)) delete item;
     const bool simple = status_.Style == sbrSimple;
     simple_->setVisible(simple);
@@ -67,9 +71,6 @@ void StatusBarWidget::syncFromModel() {
         if (!simple) layout_->addWidget(label, spring ? 1 : 0);
     }
     if (!simple) layout_->addStretch(0);
-    strip_->setAutoFillBackground(true);
-    applyColors(strip_, QPalette::Window, QPalette::WindowText);
-    applyFont(strip_);
 }
 
 bool StatusBarWidget::eventFilter(QObject* watched, QEvent* event) {

@@ -12,6 +12,7 @@ namespace orbidex {
 TreeViewWidget::TreeViewWidget(TreeView& control, QWidget* parent)
     : ControlWidget(control, parent), treeModel_(control), tree_(new QTreeWidget) {
     setDeferredRefresh(true);
+    setDrawnWhenShown(true);
     tree_->setHeaderHidden(true);
     tree_->setColumnCount(1);
     setInner(tree_, tree_->viewport(), tree_);

@@ -5,10 +5,12 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPixmap>
+#include <algorithm>
 
 #include "controls/Control.h"
 #include "controls/KeyCodes.h"
 #include "qt/QtText.h"
+#include "qt/views/DrawnIcon.h"
 
 namespace orbidex {
 
@@ -17,6 +19,24 @@ namespace {
 // Half way between two colours.
 QColor midway(const QColor& a, const QColor& b) {
     return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
+}
+
+// Draws the tile of an image name: a square in the name's own colour with the
+// name's first letter.
+void drawTile(QPixmap& canvas, const QString& key) {
+    const int hue = static_cast<int>(qHash(key) % 360);
+    const int side = std::min(canvas.width(), canvas.height());
+    QPainter painter(&canvas);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor::fromHsv(hue, 150, 200));
+    painter.setPen(QColor::fromHsv(hue, 200, 120));
+    painter.drawRoundedRect(QRectF(0.5, 0.5, side - 1, side - 1), side / 5.0, side / 5.0);
+    QFont font;
+    font.setBold(true);
+    font.setPixelSize(std::max(1, side * 2 / 3));
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(QRect(0, 0, side, side), Qt::AlignCenter, key.left(1).toUpper());
 }
 
 }  // namespace
@@ -70,26 +90,9 @@ QIcon IconNamed(const std::string& name) {
     const QString key = QString::fromStdString(name).toLower();
     if (key.isEmpty()) return QIcon();
     if (const auto it = cache.constFind(key); it != cache.constEnd()) return *it;
-    // A hue from the name, so that each image has a colour of its own.
-    const int hue = static_cast<int>(qHash(key) % 360);
-    QIcon icon;
-    for (int side : {16, 32}) {
-        QPixmap pixmap(side, side);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setBrush(QColor::fromHsv(hue, 150, 200));
-        painter.setPen(QColor::fromHsv(hue, 200, 120));
-        painter.drawRoundedRect(QRectF(0.5, 0.5, side - 1, side - 1), side / 5.0, side / 5.0);
-        QFont font;
-        font.setBold(true);
-        font.setPixelSize(side * 2 / 3);
-        painter.setFont(font);
-        painter.setPen(Qt::white);
-        painter.drawText(QRect(0, 0, side, side), Qt::AlignCenter, key.left(1).toUpper());
-        painter.end();
-        icon.addPixmap(pixmap);
-    }
+    // Drawn when first painted: most tiles are replaced by the program's own icons
+    // before anybody sees them, and drawing one needs a font.
+    const QIcon icon = DrawnIcon([key](QPixmap& canvas) { drawTile(canvas, key); });
     cache.insert(key, icon);
     return icon;
 }
