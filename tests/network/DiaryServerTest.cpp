@@ -1,6 +1,8 @@
 // The reference server on its own: what it takes over, what it leaves, how it
 // answers a search, and the user list it keeps.
 #include <gtest/gtest.h>
+#include <sys/inotify.h>
+#include <unistd.h>
 
 #include <algorithm>
 
@@ -11,6 +13,40 @@
 
 using namespace orbidex;
 using test::EventLine;
+
+namespace {
+
+// The names that appear in a folder ("+name": written, or moved in whole) and go
+// from it ("-name"), in the order the system saw them.
+class FolderChanges {
+public:
+    explicit FolderChanges(const std::string& folder) : fd_(::inotify_init1(IN_NONBLOCK)) {
+        ::inotify_add_watch(fd_, ToNativePath(folder).c_str(), IN_MOVED_TO | IN_DELETE);
+    }
+    ~FolderChanges() { ::close(fd_); }
+    FolderChanges(const FolderChanges&) = delete;
+    FolderChanges& operator=(const FolderChanges&) = delete;
+
+    /// The changes since the last call.
+    std::vector<std::string> Take() {
+        std::vector<std::string> changes;
+        alignas(inotify_event) char buffer[8192];
+        ssize_t length = 0;
+        while ((length = ::read(fd_, buffer, sizeof buffer)) > 0) {
+            for (const char* at = buffer; at < buffer + length;) {
+                const auto* event = reinterpret_cast<const inotify_event*>(at);
+                changes.push_back(std::string((event->mask & IN_MOVED_TO) != 0 ? "+" : "-") + event->name);
+                at += sizeof(inotify_event) + event->len;
+            }
+        }
+        return changes;
+    }
+
+private:
+    int fd_;
+};
+
+}  // namespace
 
 class DiaryServerTest : public test::NetworkFixture {
 protected:
@@ -188,4 +224,36 @@ TEST_F(DiaryServerTest, EachLineOfABookingGoesToTheUserItNames) {
     DeleteFile(Mary("_4CLIENT.ADD"));
     server_->Poll();
     EXPECT_EQ(ReadBytes(Mary("_4CLIENT.ADD")), "second\r\n");
+}
+
+// A client that sees an answer may ask again at once: the question the answer is for
+// has to be gone by then, or the new question goes with it and is never answered.
+TEST_F(DiaryServerTest, AQuestionIsGoneBeforeItsAnswerAppears) {
+    WriteBytes(Mary("CHAT.TXT"), "Hi there server! please make a CHAT.TXT.OK if you are there\r\n");
+    HandOver("D200406.dat_NET", "June\r\n");
+    WriteBytes(UserFolder("fred") + "REQUEST.TXT", "[search]\r\ndetail= \r\nusers=mary, \r\n\r\n");
+    WriteBytes(UserFolder("fred") + "REQUEST.TXT.OK", "Finished writing request to server\r\n");
+    FolderChanges mary(UserFolder("mary"));
+    FolderChanges fred(UserFolder("fred"));
+    server_->Poll();
+    const std::vector<std::string> maryChanges = mary.Take();
+    const std::vector<std::string> fredChanges = fred.Take();
+
+    const struct {
+        const std::vector<std::string>& changes;
+        std::vector<std::string> question;
+        std::string answer;
+    } exchanges[] = {
+        {maryChanges, {"CHAT.TXT"}, "CHAT.TXT.OK"},
+        {maryChanges, {"D200406.dat_NET", "D200406.dat_NET.OK"}, "SERVER.FIN"},
+        {fredChanges, {"REQUEST.TXT", "REQUEST.TXT.OK"}, "RESULTS.TXT.OK"},
+    };
+    for (const auto& exchange : exchanges) {
+        const auto& changes = exchange.changes;
+        const auto answered = std::find(changes.begin(), changes.end(), "+" + exchange.answer);
+        ASSERT_NE(answered, changes.end()) << exchange.answer;
+        for (const std::string& name : exchange.question)
+            EXPECT_NE(std::find(changes.begin(), answered, "-" + name), answered)
+                << name << " still stood when " << exchange.answer << " appeared";
+    }
 }

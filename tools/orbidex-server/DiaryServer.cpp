@@ -110,8 +110,11 @@ void DiaryServer::takeLogOnAndOff(const UserFolder& folder) {
 void DiaryServer::answerPing(const UserFolder& folder) {
     const std::string chat = folder.find(sf::kChat);
     if (chat.empty()) return;
-    WriteWholeFile(folder.path + std::string(sf::kChatOK), "The diary server is here\r\n");
+    // The ping goes before the answer appears: a client that sees the answer and
+    // pings again at once starts a new CHAT.TXT for the next pass, instead of adding
+    // its line to the file deleted here and waiting for an answer that never comes.
     DeleteFile(folder.path + chat);
+    WriteWholeFile(folder.path + std::string(sf::kChatOK), "The diary server is here\r\n");
     log("answered " + folder.user + "'s " + chat);
 }
 
@@ -169,9 +172,11 @@ void DiaryServer::answerRequest(const UserFolder& folder) {
         log("could not write the results for " + folder.user + " - the request waits for the next pass");
         return;
     }
-    WriteWholeFile(folder.path + std::string(sf::kResultsOK), "results complete\r\n");
+    // Likewise the request goes before the results are published, so that the
+    // client's next request is never deleted unanswered.
     DeleteFile(folder.path + request);
     DeleteFile(folder.path + confirm);
+    WriteWholeFile(folder.path + std::string(sf::kResultsOK), "results complete\r\n");
     log("answered " + folder.user + "'s search with " + CStr(static_cast<long>(SplitLines(results).size())) + " lines");
 }
 
