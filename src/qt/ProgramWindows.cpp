@@ -15,7 +15,7 @@ void RegisterProgramWindows(QtFormRegistry& registry) {
     // The editing dialogs: every control is drawn at its place by the form's window.
     for (const char* dialog : {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator",
                                "frmEditTask", "frmEditNote", "frmTemplateEdit", "frmInfoSearch",
-                               "frmOptions"})
+                               "frmOptions", "frmColour", "frmDiaryPickFields", "frmCalendarView", "frmAbout"})
         registry.Register(dialog, [](Form& form) { return new FormWindow(form); });
 
     // The windows shown without waiting: the chat and the note.

@@ -131,9 +131,6 @@ void clsDiaryCommand::unavailable(const std::string& what) {
 void clsDiaryCommand::BookMeeting(VbDate, const std::string&) {
     unavailable("booking a meeting");
 }
-void clsDiaryCommand::ViewYear() {
-    unavailable("the annual calendar");
-}
 void clsDiaryCommand::serverRefreshStaffData() {
     unavailable("the staff planner's data");
 }

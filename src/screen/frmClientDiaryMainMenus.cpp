@@ -17,16 +17,15 @@ namespace {
 // operation in this version of the program.
 const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
-        "mnuFileImport",        "mnuFileExport",          "mnuAppPlanMeeting", "mnuTaskHeadings", "mnuNotesMenu(3)",
-        "mnuOptScrapPaper",     "mnuToolsCalendar",       "mnuOptionsDisplay",
-        "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuBetaServerEnforce", "mnuBetaTest(0)", "mnuHelpAbout",
+        "mnuFileImport",    "mnuFileExport",        "mnuAppPlanMeeting", "mnuNotesMenu(3)",
+        "mnuOptScrapPaper", "mnuBetaServerEnforce", "mnuBetaTest(0)",
     };
     return names;
 }
 
 const std::set<std::string>& keysWithoutOperation() {
     static const std::set<std::string> keys = {
-        "year", "refresh", "Meeting",
+        "refresh", "Meeting",
     };
     return keys;
 }
@@ -121,6 +120,9 @@ void frmClientDiaryMain::bindMenus() {
     mnuToolsQuickAdd.onClick = [] { glbCmd.StartCompanionTool("sulvane.exe"); };
     mnuToolsTimesheet.onClick = [] { glbCmd.StartCompanionTool("kestrop.exe"); };
     mnuViewSetup.onClick = [] { glbCmd.ShowOptions(); };
+    mnuOptionsDisplay.onClick = [] { glbCmd.ShowColours(); };
+    mnuOptionsListView.onClick = [] { glbCmd.ShowHeadings("ListViewHeadings"); };
+    mnuOptionsTaskHeadings.onClick = [] { glbCmd.ShowHeadings("TaskHeadings"); };
     mnuPingServer.onClick = [] { glbCmd.serverPing(); };
     mnuServerMessages.onClick = [] { glbScreen.SwitchMode("MESSAGE"); };
     mnuServerChat.onClick = [] { glbCmd.CommandChat(); };
@@ -138,6 +140,7 @@ void frmClientDiaryMain::bindMenus() {
 
     mnuHelpContents.Shortcut = "F1";
     mnuHelpContents.onClick = [] { glbCmd.OpenHelpContents(); };
+    mnuHelpAbout.onClick = [] { glbCmd.ShowAbout(); };
     mnuHelpShowcase.onClick = [] { glbCmd.OpenMakersPage(clsDiaryCommand::MakersPage::Showcase); };
     mnuHelpSuggest.onClick = [] { glbCmd.OpenMakersPage(clsDiaryCommand::MakersPage::Suggestion); };
     mnuHelpBugReport.onClick = [] { glbCmd.OpenMakersPage(clsDiaryCommand::MakersPage::BugReport); };
