@@ -1,6 +1,7 @@
 #include "config/frmColour.h"
 
 #include "config/clsConfigDiary.h"
+#include "dialogs/EditorSupport.h"
 #include "foundation/VbString.h"
 #include "platform/Platform.h"
 
@@ -76,13 +77,7 @@ void frmColour::placeControls() {
     cmdFont.Caption = "Font...";
     cmdFont.Move(kSampleLeft + kSampleWidth + 1260, fontTop, 1380, kButtonHeight);
 
-    const long buttonsTop = fontTop + 720;
-    cmdOK.Caption = "OK";
-    cmdOK.Default = true;
-    cmdOK.Move(Width - 2700, buttonsTop, 1080, 375);
-    cmdCancel.Caption = "Cancel";
-    cmdCancel.Cancel = true;
-    cmdCancel.Move(Width - 1500, buttonsTop, 1080, 375);
+    PlaceOkCancel(cmdOK, cmdCancel, Width, fontTop + 720);
 }
 
 void frmColour::Form_Load() {

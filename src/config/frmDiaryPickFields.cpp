@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "config/clsConfigDiary.h"
+#include "dialogs/EditorSupport.h"
 #include "diary/cDiaryRecord.h"
 #include "foundation/VbString.h"
 #include "platform/Platform.h"
@@ -77,13 +78,7 @@ void frmDiaryPickFields::placeControls() {
         chkField(i).Move(120, top, kTickWidth, 315);
         txtCaption(i).Move(120 + kTickWidth + 120, top, kCaptionWidth, 315);
     }
-    const long buttonsTop = kTop + kFields * kRowStep + 180;
-    cmdOK.Caption = "OK";
-    cmdOK.Default = true;
-    cmdOK.Move(Width - 2700, buttonsTop, 1080, 375);
-    cmdCancel.Caption = "Cancel";
-    cmdCancel.Cancel = true;
-    cmdCancel.Move(Width - 1500, buttonsTop, 1080, 375);
+    PlaceOkCancel(cmdOK, cmdCancel, Width, kTop + kFields * kRowStep + 180);
 }
 
 cDiaryRecord& frmDiaryPickFields::headings() {
