@@ -22,4 +22,5 @@ exe=orbidex
 home="${ORBIDEX_HOME:-$HOME/Orbidex}"
 mkdir -p "$home"
 cp -f "build/release/app/$exe" "$home/$exe"
+cp -rf build/release/app/help "$home/"
 exec "$home/$exe"

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "config/clsConfigDiary.h"
+#include "config/frmDiaryPickFields.h"
 #include "dialogs/EditorSupport.h"
 #include "foundation/FileSystem.h"
 #include "foundation/VbString.h"
@@ -75,9 +76,11 @@ void frmOptions::placeControls() {
                              {&chkShowFolders, "Show the folder tree"}});
     placeCalendarTab(frameOpt(2));
     placeHeadingsTab(frameOpt(3), cmdTaskHeadings,
-                     "The columns of the task list are the keys of [TaskHeadings] in the settings file: a caption "
-                     "shows its column, <hide> leaves it out.");
+                     "Choose the columns of the task list and the heading of each. The choice is kept at once, "
+                     "whichever button closes this window.");
     cmdTaskHeadings.Caption = "Task Headings...";
+    cmdTaskHeadings.Enabled = true;
+    cmdTaskHeadings.ToolTipText = "The columns of the task list";
     placeHeadingsTab(frameOpt(4), cmdNoteHeadings, "The note list shows the title of each note.");
     cmdNoteHeadings.Caption = "Note Headings...";
     placeTicks(frameOpt(5), {{&chkShowShaded, "Shade the times when the others are busy"},
@@ -172,8 +175,7 @@ void frmOptions::placeCalendarTab(Frame& tab) {
     }
     place(cmdCalendarHeadings, tab, 120, 165 + 6 * kRowStep + 30, 2400, 375);
     cmdCalendarHeadings.Caption = "Event List Headings...";
-    cmdCalendarHeadings.Enabled = false;
-    cmdCalendarHeadings.ToolTipText = "Not available yet";
+    cmdCalendarHeadings.ToolTipText = "The columns of the list of events";
 }
 
 void frmOptions::placeHeadingsTab(Frame& tab, CommandButton& button, const std::string& text) {
@@ -214,6 +216,8 @@ void frmOptions::bindEvents() {
     cmdDefault.onClick = [this] { cmdDefault_Click(); };
     VScroll1.onChange = [this] { VScroll1_Change(); };
     VScroll2.onChange = [this] { VScroll2_Change(); };
+    cmdCalendarHeadings.onClick = [this] { cmdCalendarHeadings_Click(); };
+    cmdTaskHeadings.onClick = [this] { cmdTaskHeadings_Click(); };
     cmdOK.onClick = [this] { cmdOK_Click(); };
     cmdCancel.onClick = [this] { cmdCancel_Click(); };
 }
@@ -288,6 +292,16 @@ void frmOptions::cmdDefaultLocalPath_Click() {
 void frmOptions::cmdAutomapClient_Click() {
     const std::string found = glbConfig.DetectNetworkPath();
     if (!found.empty()) Text1(1).Text = ShownPath(found);
+}
+
+// The headings are written when their dialog closes; the caller of the options reads
+// every setting again after.
+void frmOptions::cmdCalendarHeadings_Click() {
+    frmDiaryPickFields("ListViewHeadings").Show(true);
+}
+
+void frmOptions::cmdTaskHeadings_Click() {
+    frmDiaryPickFields("TaskHeadings").Show(true);
 }
 
 void frmOptions::cmdDefault_Click() {

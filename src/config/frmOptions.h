@@ -50,6 +50,9 @@ public:
     void cmdDefaultLocalPath_Click();
     void cmdAutomapClient_Click();
     void cmdDefault_Click();
+    /// The columns of the event list, and of the task list, in their dialog.
+    void cmdCalendarHeadings_Click();
+    void cmdTaskHeadings_Click();
     void cmbCal_Click(int index);
     void VScroll1_Change();
     void VScroll2_Change();

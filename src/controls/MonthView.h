@@ -27,6 +27,9 @@ public:
     Property<int> StartOfWeek{this, 2};
     Property<bool> ShowToday{this, true};
     Property<bool> ShowWeekNumbers{this, false};
+    /// A day of the month shown first; 0 (the usual) shows first the month of the
+    /// value, unless the value is shown already.
+    Property<VbDate> FirstMonth{this, 0};
 
     /// Days drawn in bold (days with events, for one).
     bool DayBold(VbDate day) const;

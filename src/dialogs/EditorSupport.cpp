@@ -31,6 +31,15 @@ void ShowSelectedTab(const TabStrip& tabs, ControlArray<Frame>& frames) {
     for (int index : frames.Indexes()) frames(index).Visible = index == shown;
 }
 
+void PlaceOkCancel(CommandButton& ok, CommandButton& cancel, long formWidth, long top) {
+    ok.Caption = "OK";
+    ok.Default = true;
+    ok.Move(formWidth - 2700, top, 1080, 375);
+    cancel.Caption = "Cancel";
+    cancel.Cancel = true;
+    cancel.Move(formWidth - 1500, top, 1080, 375);
+}
+
 void ToggleDetails(Form& form, CommandButton& details, long wide, long narrow, long height) {
     const bool widen = details.Caption == "Details >>";
     details.Caption = widen ? "Details <<" : "Details >>";

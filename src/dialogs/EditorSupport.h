@@ -28,6 +28,10 @@ void ShowFirstTab(TabStrip& tabs, ControlArray<Frame>& frames);
 /// Shows the frame of the selected tab (the tab's index less one), hides the others.
 void ShowSelectedTab(const TabStrip& tabs, ControlArray<Frame>& frames);
 
+/// OK (answering Enter) and Cancel (answering Escape) side by side at `top`, at the
+/// right of a window `formWidth` wide.
+void PlaceOkCancel(CommandButton& ok, CommandButton& cancel, long formWidth, long top);
+
 /// "Details >>" widens the window to `wide`, "Details <<" narrows it to `narrow`;
 /// either way it takes `height` and keeps its place.
 void ToggleDetails(Form& form, CommandButton& details, long wide, long narrow, long height);

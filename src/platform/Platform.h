@@ -113,6 +113,22 @@ public:
         (void)startFolder;
         return "";
     }
+    /// A colour the user picks in the desktop's colour chooser, starting on
+    /// `current` (24-bit, red in the low byte); false, `current` untouched, when the
+    /// user cancels.
+    virtual bool PickColour(const std::string& title, long& current) {
+        (void)title;
+        (void)current;
+        return false;
+    }
+    /// A font the user picks in the desktop's font chooser, starting on `name` and
+    /// `size` (points); false, both untouched, when the user cancels.
+    virtual bool PickFont(const std::string& title, std::string& name, double& size) {
+        (void)title;
+        (void)name;
+        (void)size;
+        return false;
+    }
 
     // Forms
     virtual void ShowModal(Form& form) = 0;

@@ -16,7 +16,8 @@ void RegisterProgramWindows(QtFormRegistry& registry) {
     for (const char* dialog :
          {"frmEditEvent", "frmRescheduleEvent", "frmEventMultiple", "frmDateGenerator", "frmEditTask", "frmEditNote",
           "frmTemplateEdit", "frmTemplateList", "frmListAndDetailsSubForm", "frmClipboard", "frmInfoSearch",
-          "frmOptions", "frmBookMeeting"})
+          "frmOptions", "frmBookMeeting", "frmColour", "frmDiaryPickFields", "frmCalendarView",
+          "frmAbout"})
         registry.Register(dialog, [](Form& form) { return new FormWindow(form); });
 
     // The windows shown without waiting: the chat and the note.

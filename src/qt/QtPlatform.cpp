@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QColorDialog>
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDesktopServices>
@@ -15,6 +16,7 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontDialog>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QInputDialog>
@@ -253,6 +255,26 @@ std::string QtPlatform::PickFolder(const std::string& title, const std::string& 
     const QString start = startFolder.empty() ? QString() : QString::fromStdString(ToNativePath(startFolder));
     const QString picked = QFileDialog::getExistingDirectory(QApplication::activeWindow(), titleOr(title), start);
     return picked.isEmpty() ? "" : ToStoredPath(picked.toStdString());
+}
+
+bool QtPlatform::PickColour(const std::string& title, long& current) {
+    const QColor start(RedOf(static_cast<OleColor>(current)), GreenOf(static_cast<OleColor>(current)),
+                       BlueOf(static_cast<OleColor>(current)));
+    const QColor picked = QColorDialog::getColor(start, QApplication::activeWindow(), titleOr(title));
+    if (!picked.isValid()) return false;
+    current = static_cast<long>(RGB(picked.red(), picked.green(), picked.blue()));
+    return true;
+}
+
+bool QtPlatform::PickFont(const std::string& title, std::string& name, double& size) {
+    bool ok = false;
+    QFont start(ToQString(name));
+    if (size > 0) start.setPointSizeF(size);
+    const QFont picked = QFontDialog::getFont(&ok, start, QApplication::activeWindow(), titleOr(title));
+    if (!ok) return false;
+    name = FromQString(picked.family());
+    size = picked.pointSizeF();
+    return true;
 }
 
 int QtPlatform::OpenDocument(const std::string& fileOrUrl) {

@@ -39,6 +39,8 @@ public:
     bool StartProcess(const std::string& commandLine) override;
     int OpenDocument(const std::string& fileOrUrl) override;
     std::string PickFolder(const std::string& title, const std::string& startFolder) override;
+    bool PickColour(const std::string& title, long& current) override;
+    bool PickFont(const std::string& title, std::string& name, double& size) override;
     void ShowModal(Form& form) override;
     void ShowModeless(Form& form) override;
     void HideForm(Form& form) override;

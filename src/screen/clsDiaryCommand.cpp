@@ -127,14 +127,4 @@ void clsDiaryCommand::serverPing() {
     timerOn(true);
 }
 
-void clsDiaryCommand::unavailable(const std::string& what) {
-    const std::string text = "Not available yet: " + what;
-    glbLog.log(text, 3);
-    if (form_ != nullptr) form_->status.Panels(1).Text = text;
-}
-
-void clsDiaryCommand::ViewYear() {
-    unavailable("the annual calendar");
-}
-
 }  // namespace orbidex

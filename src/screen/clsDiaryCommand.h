@@ -34,6 +34,9 @@ public:
     void ViewList();
     /// Moves the view to today.
     void ViewToday();
+    /// The perpetual calendar on the view's year; a day clicked in it is shown in
+    /// the calendar behind it.
+    void ViewYear();
     /// Reads the present mode's data again (the server's too, for a client).
     void viewRefresh();
     /// Shows or hides the browser pane with the program's page of past notes.
@@ -103,7 +106,7 @@ public:
     void ShowViewTotals();
     /// How many events are in memory, in a message.
     void ShowEventCount();
-    /// The help page for this kind of program.
+    /// The help page for this kind of program, in the browser pane.
     void OpenHelpContents();
     enum class MakersPage { Showcase, Suggestion, BugReport };
     /// One of the maker's web pages, in the desktop's browser.
@@ -156,6 +159,16 @@ public:
     /// is read again and the mode drawn anew with it.
     void ShowOptions();
 
+    // The display settings dialogs, the perpetual calendar and the about box
+    /// The colours dialog; afterwards every setting is read again and the mode drawn
+    /// anew with it.
+    void ShowColours();
+    /// The columns of the event list ("ListViewHeadings") or of the task list
+    /// ("TaskHeadings"); afterwards the list is drawn with them.
+    void ShowHeadings(const std::string& section);
+    /// The about box.
+    void ShowAbout();
+
     // Drops between the views, and from other programs.  Each turns timerSecond off
     // while it changes the files.
     /// The current event moved to `date` ("yyyymmdd") at `time` ("hhmm"), into
@@ -180,11 +193,6 @@ public:
     void serverRefreshStaffData();
     /// The ticks of lvUsers changed: the planner asks for the users now ticked.
     void StaffUsersTicked();
-
-    // Operations that the program does not have yet.  The menu entries and tool bar
-    // buttons that lead only here are disabled; the tree, whose nodes cannot be,
-    // reaches them and the status bar says so.
-    void ViewYear();
 
     /// A boolean property pair, read and written, with no other effect.
     bool IsMenuTicked() const { return isMenuTicked_; }
@@ -214,7 +222,6 @@ private:
     void dataFolderChanged(const std::string& oldDataPath);
     /// Exports the diary; the page of the month on screen, or of the last month, or "".
     std::string exportPages();
-    void unavailable(const std::string& what);
 
     frmClientDiaryMain* form_ = nullptr;
     bool isMenuTicked_ = false;

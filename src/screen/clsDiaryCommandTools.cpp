@@ -3,11 +3,14 @@
 #include <algorithm>
 
 #include "config/clsConfigDiary.h"
+#include "config/frmOptions.h"
 #include "diary/cDiaryRecords.h"
+#include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbString.h"
 #include "platform/Platform.h"
 #include "screen/clsDiaryCommand.h"
+#include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
 
 namespace orbidex {
@@ -49,8 +52,17 @@ void clsDiaryCommand::ShowEventCount() {
 }
 
 void clsDiaryCommand::OpenHelpContents() {
-    const std::string page = NETWORK_STRING == "LOCAL" ? "\\help\\help-diary.html" : "\\help\\help-client.html";
-    platform().OpenDocument(platform().ProgramFolder() + page);
+    const std::string page = platform().ProgramFolder() +
+                             (NETWORK_STRING == "LOCAL" ? "\\help\\help-diary.html" : "\\help\\help-client.html");
+    if (!FileExists(page)) {
+        platform().MsgBox("The help page " + ShownPath(page) + " is missing.", vbOKOnly + vbExclamation, "Help");
+        return;
+    }
+    if (form_ == nullptr) return;
+    form_->web.Navigate2(page);
+    form_->web.Visible = true;
+    form_->mnuViewBrowser.Checked = true;
+    glbScreen.resize();
 }
 
 void clsDiaryCommand::OpenMakersPage(MakersPage page) {

@@ -17,15 +17,13 @@ namespace {
 // operation in this version of the program.
 const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
-        "mnuTaskHeadings",      "mnuNotesMenu(3)",      "mnuToolsCalendar",     "mnuOptionsDisplay",
-        "mnuOptionsListView",   "mnuOptionsTaskHeadings", "mnuBetaServerEnforce", "mnuHelpAbout",
+        "mnuNotesMenu(3)", "mnuBetaServerEnforce",
     };
     return names;
 }
 
 const std::set<std::string>& keysWithoutOperation() {
     static const std::set<std::string> keys = {
-        "year",
     };
     return keys;
 }
@@ -123,6 +121,9 @@ void frmClientDiaryMain::bindMenus() {
     mnuToolsQuickAdd.onClick = [] { glbCmd.StartCompanionTool("sulvane.exe"); };
     mnuToolsTimesheet.onClick = [] { glbCmd.StartCompanionTool("kestrop.exe"); };
     mnuViewSetup.onClick = [] { glbCmd.ShowOptions(); };
+    mnuOptionsDisplay.onClick = [] { glbCmd.ShowColours(); };
+    mnuOptionsListView.onClick = [] { glbCmd.ShowHeadings("ListViewHeadings"); };
+    mnuOptionsTaskHeadings.onClick = [] { glbCmd.ShowHeadings("TaskHeadings"); };
     mnuPingServer.onClick = [] { glbCmd.serverPing(); };
     mnuServerMessages.onClick = [] { glbScreen.SwitchMode("MESSAGE"); };
     mnuServerChat.onClick = [] { glbCmd.CommandChat(); };
@@ -141,6 +142,7 @@ void frmClientDiaryMain::bindMenus() {
 
     mnuHelpContents.Shortcut = "F1";
     mnuHelpContents.onClick = [] { glbCmd.OpenHelpContents(); };
+    mnuHelpAbout.onClick = [] { glbCmd.ShowAbout(); };
     mnuHelpShowcase.onClick = [] { glbCmd.OpenMakersPage(clsDiaryCommand::MakersPage::Showcase); };
     mnuHelpSuggest.onClick = [] { glbCmd.OpenMakersPage(clsDiaryCommand::MakersPage::Suggestion); };
     mnuHelpBugReport.onClick = [] { glbCmd.OpenMakersPage(clsDiaryCommand::MakersPage::BugReport); };

@@ -74,6 +74,35 @@ std::string ScriptedPlatform::PickFileToOpen(const std::string& title, const std
     return file;
 }
 
+bool ScriptedPlatform::PickColour(const std::string& title, long& current) {
+    long answer = -1;
+    if (!colourAnswers_.empty()) {
+        answer = colourAnswers_.front();
+        colourAnswers_.pop_front();
+    } else {
+        problem("Unanswered colour chooser: [" + title + "]");
+    }
+    transcript_.push_back({DialogRecord::Colour, title, std::to_string(current), 0, std::to_string(answer)});
+    if (answer < 0) return false;
+    current = answer;
+    return true;
+}
+
+bool ScriptedPlatform::PickFont(const std::string& title, std::string& name, double& size) {
+    std::pair<std::string, double> answer;
+    if (!fontAnswers_.empty()) {
+        answer = fontAnswers_.front();
+        fontAnswers_.pop_front();
+    } else {
+        problem("Unanswered font chooser: [" + title + "]");
+    }
+    transcript_.push_back({DialogRecord::Font, title, name, 0, answer.first});
+    if (answer.first.empty()) return false;
+    name = answer.first;
+    size = answer.second;
+    return true;
+}
+
 void ScriptedPlatform::DoEvents() {
     ++doEventsCount_;
     // A wait that never ends would hang the test: stop it with a problem instead.

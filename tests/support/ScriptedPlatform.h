@@ -14,7 +14,7 @@
 namespace orbidex::test {
 
 struct DialogRecord {
-    enum Kind { Message, Input, Folder } kind = Message;
+    enum Kind { Message, Input, Folder, Colour, Font } kind = Message;
     std::string title;
     std::string text;
     int buttons = 0;
@@ -41,6 +41,10 @@ public:
     void QueueFolderAnswer(const std::string& folder) { folderAnswers_.push_back(folder); }
     /// The file picker answers with the queued files in turn (stored paths, "" to cancel).
     void QueuePickedFile(const std::string& file) { pickedFiles_.push_back(file); }
+    /// The colour the next colour chooser gives (-1 for Cancel).
+    void QueueColourAnswer(long colour) { colourAnswers_.push_back(colour); }
+    /// The font the next font chooser gives ("" for Cancel).
+    void QueueFontAnswer(const std::string& name, double size) { fontAnswers_.push_back({name, size}); }
     const std::vector<DialogRecord>& Transcript() const { return transcript_; }
     /// The texts of all message boxes shown so far.
     std::vector<std::string> MessageTexts() const;
@@ -102,6 +106,8 @@ public:
     bool StartProcess(const std::string& commandLine) override;
     int OpenDocument(const std::string& fileOrUrl) override;
     std::string PickFolder(const std::string& title, const std::string& startFolder) override;
+    bool PickColour(const std::string& title, long& current) override;
+    bool PickFont(const std::string& title, std::string& name, double& size) override;
     void ShowModal(Form& form) override;
     void ShowModeless(Form& form) override;
     void HideForm(Form&) override {}
@@ -119,6 +125,8 @@ private:
     std::deque<std::string> inputAnswers_;
     std::deque<std::string> folderAnswers_;
     std::deque<std::string> pickedFiles_;
+    std::deque<long> colourAnswers_;
+    std::deque<std::pair<std::string, double>> fontAnswers_;
     std::vector<DialogRecord> transcript_;
     std::map<std::string, std::deque<std::function<void(Form&)>>> formScripts_;
     std::vector<std::string> formsShown_;

@@ -94,10 +94,13 @@ void MonthViewWidget::syncFromModel() {
         calendar->setSelectedDate(value);
         applyFont(calendar);
     }
-    // The first calendar shows the month of the value, unless the value is shown already.
+    // The first calendar shows the month asked for, else the month of the value unless
+    // the value is shown already.
     const QDate first(firstShown_.year(), firstShown_.month(), 1);
     const long months = static_cast<long>(calendars_.size());
-    if (!firstShown_.isValid() || value < first || value >= first.addMonths(static_cast<int>(months)))
+    if (month_.FirstMonth != 0)
+        firstShown_ = toQDate(month_.FirstMonth);
+    else if (!firstShown_.isValid() || value < first || value >= first.addMonths(static_cast<int>(months)))
         firstShown_ = QDate(value.year(), value.month(), 1);
     showMonthsFrom(firstShown_.year(), firstShown_.month());
 }
