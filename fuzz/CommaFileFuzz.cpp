@@ -6,8 +6,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "FuzzProgram.h"
 #include "diary/cDiaryFileUtils.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/Cp1252.h"
@@ -18,14 +17,7 @@
 #include "screen/frmClientDiaryMain.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static orbidex::test::ScriptedPlatform platform;
-    static orbidex::test::TempFolder folder;
-    platform.SetProgramFolder(folder.Stored());
-    platform.SetProblemHandler([](const std::string&) {});
-    platform.ClearTranscript();
-    orbidex::SetPlatform(&platform);
-    orbidex::ResetProgramState();
-    orbidex::gLogLevel = -2;
+    auto& folder = orbidex::test::StartFuzzInput().folder;
     orbidex::gStrDataPath = folder.Stored() + "\\";
     orbidex::MainForm().MonthView1.Value = orbidex::DateSerial(2004, 6, 5);
     for (const std::string& name : orbidex::ListFolder(orbidex::gStrDataPath + "*.*", false))

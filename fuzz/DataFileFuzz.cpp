@@ -6,8 +6,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "FuzzProgram.h"
 #include "controls/ListView.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -27,13 +26,7 @@ std::string readFile(const std::string& file) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static orbidex::test::ScriptedPlatform platform;
-    static orbidex::test::TempFolder folder;
-    platform.SetProblemHandler([](const std::string&) {});
-    platform.ClearTranscript();
-    orbidex::SetPlatform(&platform);
-    orbidex::ResetProgramState();
-    orbidex::gLogLevel = -2;
+    auto& folder = orbidex::test::StartFuzzInput().folder;
     orbidex::gStrDataPath = folder.Stored() + "\\";
     const std::string bytes(reinterpret_cast<const char*>(data), size);
     const std::string file = orbidex::gStrDataPath + "D_tasks.dat";

@@ -6,22 +6,14 @@
 #include <string>
 #include <vector>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "FuzzProgram.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static orbidex::test::ScriptedPlatform platform;
-    static orbidex::test::TempFolder folder;
-    platform.SetProgramFolder(folder.Stored());
-    platform.SetProblemHandler([](const std::string&) {});  // unanswered questions count as Cancel
-    platform.ClearTranscript();
-    orbidex::SetPlatform(&platform);
-    orbidex::ResetProgramState();
-    orbidex::gLogLevel = -2;
+    auto& [platform, folder] = orbidex::test::StartFuzzInput();
     orbidex::gStrDataPath = folder.Stored() + "\\";
     orbidex::gStrIniFile = orbidex::gStrDataPath + "orbidex.ini";
     const std::string file = orbidex::gStrDataPath + "D200406.dat";

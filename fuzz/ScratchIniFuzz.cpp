@@ -6,21 +6,14 @@
 #include <cstdlib>
 #include <string>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "FuzzProgram.h"
 #include "accessories/ScratchTabs.h"
 #include "accessories/frmClipboard.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static orbidex::test::ScriptedPlatform platform;
-    static orbidex::test::TempFolder folder;
-    platform.SetProgramFolder(folder.Stored());
-    platform.SetProblemHandler([](const std::string&) {});
-    orbidex::SetPlatform(&platform);
-    orbidex::ResetProgramState();
-    orbidex::gLogLevel = -2;
+    orbidex::test::StartFuzzInput();
     const std::string ini = orbidex::frmClipboard::IniPath();
     orbidex::WriteWholeFile(ini, std::string(reinterpret_cast<const char*>(data), size));
 

@@ -7,8 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "FuzzProgram.h"
 #include "TimeSlots.h"
 #include "config/clsConfigDiary.h"
 #include "controls/FlexGrid.h"
@@ -20,13 +19,7 @@
 #include "screen/frmClientDiaryMain.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static orbidex::test::ScriptedPlatform platform;
-    static orbidex::test::TempFolder folder;
-    platform.SetProgramFolder(folder.Stored());
-    platform.SetProblemHandler([](const std::string&) {});
-    orbidex::SetPlatform(&platform);
-    orbidex::ResetProgramState();
-    orbidex::gLogLevel = -2;
+    auto& folder = orbidex::test::StartFuzzInput().folder;
     orbidex::gStrDataPath = folder.Stored() + "\\";
     orbidex::test::UseTimeSlots(9, 12, 2);
     orbidex::glbConfig.ShowTotals = 1;

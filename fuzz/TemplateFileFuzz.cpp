@@ -7,8 +7,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "FuzzProgram.h"
 #include "dialogs/frmEditEvent.h"
 #include "dialogs/frmListAndDetailsSubForm.h"
 #include "foundation/FileSystem.h"
@@ -33,14 +32,7 @@ std::string saveThroughTheList(orbidex::test::ScriptedPlatform& platform, const 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static orbidex::test::ScriptedPlatform platform;
-    static orbidex::test::TempFolder folder;
-    platform.SetProgramFolder(folder.Stored());
-    platform.SetProblemHandler([](const std::string&) {});
-    platform.ClearTranscript();
-    orbidex::SetPlatform(&platform);
-    orbidex::ResetProgramState();
-    orbidex::gLogLevel = -2;
+    auto& [platform, folder] = orbidex::test::StartFuzzInput();
     orbidex::gStrDataPath = folder.Stored() + "\\";
     const std::string file = orbidex::gStrDataPath + "template_event.dat";
     orbidex::WriteWholeFile(file, std::string(reinterpret_cast<const char*>(data), size));
