@@ -80,6 +80,15 @@ public:
         (void)filter;
         return "";
     }
+    /// The file the user names to write, in stored form, proposing `proposedName`;
+    /// "" when the user cancels.
+    virtual std::string PickFileToSave(const std::string& title, const std::string& filter,
+                                       const std::string& proposedName) {
+        (void)title;
+        (void)filter;
+        (void)proposedName;
+        return "";
+    }
     virtual void Beep() = 0;
     virtual void PlaySoundFile(const std::string& storedPath) = 0;
     virtual std::string ClipboardText() = 0;

@@ -159,6 +159,14 @@ std::string QtPlatform::PickFileToOpen(const std::string& title, const std::stri
     return file.isEmpty() ? "" : ToStoredPath(file.toStdString());
 }
 
+std::string QtPlatform::PickFileToSave(const std::string& title, const std::string& filter,
+                                       const std::string& proposedName) {
+    const NormalCursorWhileAsking cursor;
+    const QString file = QFileDialog::getSaveFileName(QApplication::activeWindow(), ToQString(title),
+                                                      QDir::home().filePath(ToQString(proposedName)), ToQString(filter));
+    return file.isEmpty() ? "" : ToStoredPath(file.toStdString());
+}
+
 void QtPlatform::SetBusyCursor(bool busy) {
     if (busy == busy_) return;
     busy_ = busy;

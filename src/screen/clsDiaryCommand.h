@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "platform/Platform.h"
 
@@ -89,6 +90,14 @@ public:
     void ExportAppointments();
     /// The diary as HTML pages; the page of the month on screen opens in the desktop's browser.
     void ViewEventsInBrowser();
+    /// The events of the days the user names (or of the whole diary) and their
+    /// tasks, into an iCalendar file the user picks.
+    void ExportICalendar();
+    /// An iCalendar file the user picks, into the diary and the task list.
+    void ImportICalendar();
+    /// The iCalendar files among `files` (by the name's end ".ics" when `byName`),
+    /// into the diary one after the other; false when there is none.
+    bool ImportICalendarFiles(const std::vector<std::string>& files, bool byName = true);
     /// Opens the scratch pad beside the window, or brings it to the front.
     void ShowScratchPad();
 

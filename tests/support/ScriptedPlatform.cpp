@@ -74,6 +74,11 @@ std::string ScriptedPlatform::PickFileToOpen(const std::string& title, const std
     return file;
 }
 
+std::string ScriptedPlatform::PickFileToSave(const std::string& title, const std::string& filter,
+                                             const std::string& proposedName) {
+    return PickFileToOpen(title, filter + " [" + proposedName + "]");
+}
+
 void ScriptedPlatform::DoEvents() {
     ++doEventsCount_;
     // A wait that never ends would hang the test: stop it with a problem instead.

@@ -86,6 +86,9 @@ public:
     int MsgBox(const std::string& prompt, int buttons, const std::string& title) override;
     std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) override;
     std::string PickFileToOpen(const std::string& title, const std::string& filter) override;
+    /// Answers from the same queue as PickFileToOpen.
+    std::string PickFileToSave(const std::string& title, const std::string& filter,
+                               const std::string& proposedName) override;
     void SetBusyCursor(bool busy) override { busy_ = busy; }
     void DoEvents() override;
     void Beep() override { ++beeps_; }
