@@ -17,6 +17,8 @@ namespace {
 
 // A runaway rule ("every minute for ever") stops here.
 constexpr int kMostSteps = 100000;
+// The dates one repeating event may give: ten years of a daily event.
+constexpr size_t kMostDates = 3660;
 // The days an all-day event may cover.
 constexpr int kMostDays = 366;
 // A length longer than three digits does not fit the event line.
@@ -182,6 +184,8 @@ private:
                 continue;
             addOccurrence(c, pattern, instance, seconds);
         }
+        if (result.events.size() - before >= kMostDates)
+            skip(name, "only its first " + CStr(static_cast<long>(kMostDates)) + " dates were added");
         if (result.events.size() == before)
             skip(name, "it repeats, but not between " + FormatDate(from_, "yyyy-mm-dd") + " and " +
                            FormatDate(to_, "yyyy-mm-dd"));
@@ -194,7 +198,7 @@ private:
             time.zone = start.zone;
             const VbDate day = DateOnly(ToVbDate(toLocal(time)));
             if (day >= from_ && day <= to_) instances.push_back(time);
-            return day <= to_;
+            return day <= to_ && instances.size() < kMostDates;
         };
         for (icalproperty* p = first(c, ICAL_RRULE_PROPERTY); p != nullptr;
              p = icalcomponent_get_next_property(c, ICAL_RRULE_PROPERTY)) {
