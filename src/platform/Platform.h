@@ -8,6 +8,8 @@
 
 namespace orbidex {
 
+struct PrintDocument;
+
 class Form;
 
 /// A VB date: days since 1899-12-30, the fraction the time of day.
@@ -89,6 +91,9 @@ public:
         (void)proposedName;
         return "";
     }
+    /// Shows the print preview of `document`, from which the user prints it or saves
+    /// it as PDF.  By default nothing.
+    virtual void PrintPreview(const PrintDocument& document) { (void)document; }
     virtual void Beep() = 0;
     virtual void PlaySoundFile(const std::string& storedPath) = 0;
     virtual std::string ClipboardText() = 0;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/Platform.h"
+#include "screen/PrintDocument.h"
 
 namespace orbidex {
 
@@ -78,7 +79,11 @@ public:
     void EventAddMultidayEvent();
 
     // Printing: the present view as an HTML file in the data folder
+    /// Writes the view's HTML page as CommandPrint always has, then shows the print
+    /// preview of the view, from which the user prints it or saves it as PDF.
     void CommandPrint();
+    /// The printed form of the view on screen; an empty table for a view that has none.
+    PrintDocument PrintDocumentOfView();
     void ConvertListViewToHtml(ListView& list, const std::string& file);
     void ConvertGridToHtml(FlexGrid& grid, const std::string& file);
 

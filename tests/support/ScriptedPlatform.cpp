@@ -74,6 +74,8 @@ std::string ScriptedPlatform::PickFileToOpen(const std::string& title, const std
     return file;
 }
 
+void ScriptedPlatform::PrintPreview(const PrintDocument& document) { printed_.push_back(document); }
+
 std::string ScriptedPlatform::PickFileToSave(const std::string& title, const std::string& filter,
                                              const std::string& proposedName) {
     return PickFileToOpen(title, filter + " [" + proposedName + "]");
