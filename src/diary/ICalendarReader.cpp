@@ -130,7 +130,7 @@ public:
                 case ICAL_VTIMEZONE_COMPONENT:
                     break;
                 default:
-                    skip(icalcomponent_kind_to_string(icalcomponent_isa(c)), "not an event or a to-do");
+                    skipOtherPart(c);
             }
         }
     }
@@ -148,6 +148,11 @@ private:
     bool ownField(icalcomponent* component, const char* name) const { return ours_ || own(component, name) != nullptr; }
 
     void skip(const std::string& what, const std::string& why) { result.skipped.push_back(what + " - " + why); }
+
+    void skipOtherPart(icalcomponent* c) {
+        const std::string kind = lineText(icalcomponent_kind_to_string(icalcomponent_isa(c)));
+        skip(kind.empty() ? "A part of unknown kind" : kind, "not an event or a to-do");
+    }
 
     void noteUnread(icalcomponent* component) {
         for (icalproperty* p = first(component, ICAL_XLICERROR_PROPERTY); p != nullptr;
@@ -237,8 +242,13 @@ private:
             return icaldurationtype_as_int(icalproperty_get_duration(duration));
         const icaltimetype end = icalcomponent_get_dtend(c);
         if (icaltime_is_null_time(end)) return start.is_date ? 86400 : 0;
-        if (start.is_date) return static_cast<int>(DateDiff("d", ToVbDate(start), ToVbDate(end))) * 86400;
-        return static_cast<int>(DateDiff("n", ToVbDate(toLocal(start)), ToVbDate(toLocal(end)))) * 60;
+        // Kept within what an event can take, so that far-off ends do not overflow.
+        if (start.is_date)
+            return static_cast<int>(std::clamp(DateDiff("d", ToVbDate(start), ToVbDate(end)), 0L, kMostDays + 1L)) *
+                   86400;
+        return static_cast<int>(
+                   std::clamp(DateDiff("n", ToVbDate(toLocal(start)), ToVbDate(toLocal(end))), 0L, kLongestEvent + 1)) *
+               60;
     }
 
     cDiaryRecord eventFields(icalcomponent* c, const std::string& summary) {
