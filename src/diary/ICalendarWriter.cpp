@@ -179,7 +179,7 @@ std::vector<std::string> ICalendarProblems(const std::string& text) {
     const auto collect = [&problems](icalcomponent* component) {
         for (icalproperty* p = icalcomponent_get_first_property(component, ICAL_XLICERROR_PROPERTY); p != nullptr;
              p = icalcomponent_get_next_property(component, ICAL_XLICERROR_PROPERTY))
-            if (const char* text = icalproperty_get_xlicerror(p)) problems.emplace_back(text);
+            if (const char* error = icalproperty_get_xlicerror(p)) problems.emplace_back(error);
     };
     collect(calendar.get());
     for (icalcomponent* c = icalcomponent_get_first_component(calendar.get(), ICAL_ANY_COMPONENT); c != nullptr;
