@@ -5,6 +5,7 @@ ORBIDEX_PACKAGES=(
   libgtest-dev libgmock-dev libbenchmark-dev
   qt6-base-dev fonts-dejavu-core ccache
   libqt6svg6
+  pkgconf libical-dev poppler-utils
 )
 
 ensure_packages() {

@@ -24,20 +24,6 @@ std::vector<std::string> foreignLines(const std::string& file) {
     return SplitLines(Cp1252FromForeignText(bytes));
 }
 
-// A monthly file's month as "yyyymm": "D" + six digits + ".dat", of the diary's years;
-// "" for the other D*.dat files (tasks, notes, the dump of memory).
-std::string monthOfFile(const std::string& file) {
-    const std::string name = GetFileNameOnly(file);
-    if (Len(name) != 11 || UCase(Right(name, 4)) != ".DAT") return "";
-    const std::string digits = Mid(name, 2, 6);
-    for (char c : digits)
-        if (c < '0' || c > '9') return "";
-    const int year = ValInt(Left(digits, 4));
-    const int month = ValInt(Right(digits, 2));
-    if (year < kFirstDiaryYear || year > kLastDiaryYear || month < 1 || month > 12) return "";
-    return digits;
-}
-
 struct ExportedMonth {
     std::string yyyymm;
     std::string file;
@@ -70,6 +56,18 @@ std::string monthIndex(const std::vector<ExportedMonth>& months) {
 }
 
 }  // namespace
+
+std::string MonthOfDiaryFile(const std::string& file) {
+    const std::string name = GetFileNameOnly(file);
+    if (Len(name) != 11 || UCase(Right(name, 4)) != ".DAT") return "";
+    const std::string digits = Mid(name, 2, 6);
+    for (char c : digits)
+        if (c < '0' || c > '9') return "";
+    const int year = ValInt(Left(digits, 4));
+    const int month = ValInt(Right(digits, 2));
+    if (year < kFirstDiaryYear || year > kLastDiaryYear || month < 1 || month > 12) return "";
+    return digits;
+}
 
 long cDiaryFileUtils::convertCSVFiletoRecords(const std::string& file, const std::string& eventFile) {
     const std::vector<std::string> lines = foreignLines(file);
@@ -122,7 +120,7 @@ std::vector<std::string> cDiaryFileUtils::ExportDiaryFilesToHTML() {
     std::vector<ExportedMonth> months;
     std::vector<cDiaryRecord> events;
     for (const std::string& file : files) {
-        const std::string yyyymm = monthOfFile(file);
+        const std::string yyyymm = MonthOfDiaryFile(file);
         if (!yyyymm.empty() && eventsOfMonth(file, events) > 0) months.push_back({yyyymm, file});
     }
 

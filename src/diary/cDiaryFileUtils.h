@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "foundation/VbDate.h"
+
 namespace orbidex {
 
 class cDiaryFileUtils {
@@ -22,7 +24,26 @@ public:
     /// Writes the page of every month that has events, and their index, into the
     /// data folder.  Returns the pages written, in the order of the months.
     std::vector<std::string> ExportDiaryFilesToHTML();
+
+    /// Writes the events of the days from `from` to `to` and the tasks of those
+    /// days (the whole diary and every task when `from` is 0) to `file` as one
+    /// iCalendar file, and tells the user what it wrote.  False when nothing was
+    /// written.
+    bool ExportToICalendar(const std::string& file, VbDate from, VbDate to);
+    /// Adds the events of an iCalendar file to their months and its to-dos to the
+    /// task list, asking first for the dates of repeating events; then shows what was
+    /// added and what was not, and why.  An event or a task the diary holds already
+    /// is not added again.
+    void ImportICalendar(const std::string& file);
 };
+
+/// A monthly file's month as "yyyymm": "D" + six digits + ".dat", of the diary's
+/// years; "" for the other D*.dat files (tasks, notes, the dump of memory).
+std::string MonthOfDiaryFile(const std::string& file);
+
+/// Two dates as the user types them, "yyyy-mm-dd to yyyy-mm-dd"; false for anything
+/// else, or when the second comes before the first.
+bool ParseDateRange(const std::string& text, VbDate& from, VbDate& to);
 
 extern cDiaryFileUtils glbFileUtils;
 

@@ -18,6 +18,7 @@
 
 namespace orbidex {
 
+class BulkReport;
 class ComboBox;
 class FlexGrid;
 class ListBox;
@@ -161,6 +162,9 @@ public:
     /// read and written once, and reports what was added and what was not: an event
     /// whose date is no date of the diary, or that its month holds already.
     void AddBulkRecords(std::vector<cDiaryRecord>& records, long count);
+    /// The same without the message: what was not added goes into `report`; the
+    /// answer is the number of events added.
+    long AddBulkRecords(std::vector<cDiaryRecord>& records, long count, BulkReport& report);
     /// Imports a comma-separated file (X.CSV leaves its events as X.DAT beside it)
     /// or a file of event lines (a name ending in ".DAT").
     void ImportData(std::string file);

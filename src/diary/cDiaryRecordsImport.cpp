@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "diary/BulkReport.h"
 #include "diary/cDiaryFileUtils.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/DateHelpers.h"
@@ -20,8 +21,6 @@ namespace orbidex {
 
 namespace {
 
-constexpr size_t kReportLines = 10;
-
 // True for a date written as the files write dates: "yyyymmdd" of a real day.
 bool isStoredDate(const std::string& text) {
     if (Len(text) != 8) return false;
@@ -29,38 +28,6 @@ bool isStoredDate(const std::string& text) {
         if (c < '0' || c > '9') return false;
     return FormatDate(DateFromYYYYMMDD(text), "yyyymmdd") == text;
 }
-
-// What a bulk add did not do as it was given, for the message at its end.  Every
-// entry is logged as well.
-class BulkReport {
-public:
-    void NotAdded(const cDiaryRecord& event, const std::string& why) { note(notAdded_, event, why); }
-    void KeptWithOddDate(const cDiaryRecord& event, const std::string& file) {
-        note(oddDates_, event, "in " + GetFileNameOnly(file));
-    }
-    bool Empty() const { return notAdded_.empty() && oddDates_.empty(); }
-    std::string Text(long added) const {
-        return "Finished adding " + CStr(added) + " records." + section("Not added", notAdded_) +
-               section("Kept with a date that is not yyyymmdd", oddDates_);
-    }
-
-private:
-    static void note(std::vector<std::string>& list, const cDiaryRecord& event, const std::string& why) {
-        list.push_back((event.DateEvent.empty() ? "(no date)" : event.DateEvent) + " " + event.details + " - " + why);
-        glbLog.log("Bulk adding - " + list.back(), 0);
-    }
-    static std::string section(const std::string& title, const std::vector<std::string>& list) {
-        if (list.empty()) return "";
-        std::string text = "\r\n\r\n" + title + " (" + CStr(static_cast<long>(list.size())) + "):";
-        for (size_t i = 0; i < list.size() && i < kReportLines; ++i) text += "\r\n" + list[i];
-        if (list.size() > kReportLines)
-            text += "\r\n... and " + CStr(static_cast<long>(list.size() - kReportLines)) + " more, listed in the log";
-        return text;
-    }
-
-    std::vector<std::string> notAdded_;
-    std::vector<std::string> oddDates_;
-};
 
 // One monthly file while a bulk add fills it: its lines as they stand on disk, the
 // lines added, and the highest identifier of each day, which the next one follows as
@@ -137,8 +104,13 @@ bool isFileOfTheDiary(const std::string& file) {
 }  // namespace
 
 void cDiaryRecords::AddBulkRecords(std::vector<cDiaryRecord>& records, long count) {
-    count = std::clamp(count, 0L, std::max(static_cast<long>(records.size()) - 1, 0L));
     BulkReport report;
+    const long added = AddBulkRecords(records, count, report);
+    platform().MsgBox(report.Text(added), vbOKOnly, report.Empty() ? "Success" : "Some events were not added as given");
+}
+
+long cDiaryRecords::AddBulkRecords(std::vector<cDiaryRecord>& records, long count, BulkReport& report) {
+    count = std::clamp(count, 0L, std::max(static_cast<long>(records.size()) - 1, 0L));
 
     // The months the events fall in, in the order they first come, and each month's events.
     std::vector<std::string> months;
@@ -197,7 +169,7 @@ void cDiaryRecords::AddBulkRecords(std::vector<cDiaryRecord>& records, long coun
 
     LoadDiaryData(MainForm().MonthView1.Value);
     glbScreen.SwitchMode(glbScreen.Mode());
-    platform().MsgBox(report.Text(added), vbOKOnly, report.Empty() ? "Success" : "Some events were not added as given");
+    return added;
 }
 
 void cDiaryRecords::ImportData(std::string file) {

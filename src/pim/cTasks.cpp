@@ -70,6 +70,24 @@ void cTasks::Add(ListView& listControl, const cTask* task) {
     DisplayInListView(listControl, true);
 }
 
+long cTasks::AddTasks(const std::vector<cTask>& tasks, std::vector<std::string>& notAdded) {
+    table_.ReloadIfChangedOnDisk();
+    std::string id;
+    long added = 0;
+    for (cTask task : tasks) {
+        if (FindTaskIndex(&task) >= 0) {
+            notAdded.push_back(task.DateCreated + " " + task.details + " - already in the task list");
+            continue;
+        }
+        id = id.empty() ? table_.getUniqueID(table_.fname(), Today()) : table_.createNextID(Today(), id);
+        task.ID = id;
+        table_.Add(task.FormatRecordAsCSV(kFieldDelimiter, "\r\n"));
+        ++added;
+    }
+    if (added > 0) table_.SaveToFile();
+    return added;
+}
+
 void cTasks::Edit() {
     table_.ReloadIfChangedOnDisk();
     const long index = FindTaskIndex(&gCurrentTask);

@@ -5,6 +5,7 @@
 // whole file at once, sorted, so there is nothing to save at exit.
 
 #include <optional>
+#include <vector>
 #include <string>
 
 #include "pim/cData.h"
@@ -34,6 +35,10 @@ public:
     /// new ID; then lists the active tasks in `listControl`.  Nothing is added while
     /// glbConfig.dialogCancelled is set.
     void Add(ListView& listControl, const cTask* task = nullptr);
+    /// Adds the tasks under new IDs, each unless a task of the same text, date and
+    /// time is in the list already, and writes the file once.  The answer is the
+    /// number added; `notAdded` gets a line for each task left out.
+    long AddTasks(const std::vector<cTask>& tasks, std::vector<std::string>& notAdded);
     /// Only says that it is not done.
     void ImportFromFile(const std::string& path);
     /// Writes the tasks as an HTML table to `fileName` (program folder + "task.htm"

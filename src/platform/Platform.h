@@ -8,6 +8,8 @@
 
 namespace orbidex {
 
+struct PrintDocument;
+
 class Form;
 
 /// A VB date: days since 1899-12-30, the fraction the time of day.
@@ -80,6 +82,18 @@ public:
         (void)filter;
         return "";
     }
+    /// The file the user names to write, in stored form, proposing `proposedName`;
+    /// "" when the user cancels.
+    virtual std::string PickFileToSave(const std::string& title, const std::string& filter,
+                                       const std::string& proposedName) {
+        (void)title;
+        (void)filter;
+        (void)proposedName;
+        return "";
+    }
+    /// Shows the print preview of `document`, from which the user prints it or saves
+    /// it as PDF.  By default nothing.
+    virtual void PrintPreview(const PrintDocument& document) { (void)document; }
     virtual void Beep() = 0;
     virtual void PlaySoundFile(const std::string& storedPath) = 0;
     virtual std::string ClipboardText() = 0;

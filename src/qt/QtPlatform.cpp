@@ -22,6 +22,8 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QScreen>
@@ -36,6 +38,7 @@
 #include "controls/Form.h"
 #include "foundation/FileSystem.h"
 #include "foundation/VbDate.h"
+#include "qt/PrintPainter.h"
 #include "qt/QtText.h"
 
 namespace orbidex {
@@ -160,6 +163,26 @@ std::string QtPlatform::PickFileToOpen(const std::string& title, const std::stri
     const QString file = QFileDialog::getOpenFileName(QApplication::activeWindow(), ToQString(title), QDir::homePath(),
                                                       ToQString(filter));
     return file.isEmpty() ? "" : ToStoredPath(file.toStdString());
+}
+
+std::string QtPlatform::PickFileToSave(const std::string& title, const std::string& filter,
+                                       const std::string& proposedName) {
+    const NormalCursorWhileAsking cursor;
+    const QString file = QFileDialog::getSaveFileName(QApplication::activeWindow(), ToQString(title),
+                                                      QDir::home().filePath(ToQString(proposedName)), ToQString(filter));
+    return file.isEmpty() ? "" : ToStoredPath(file.toStdString());
+}
+
+void QtPlatform::PrintPreview(const PrintDocument& document) {
+    const NormalCursorWhileAsking cursor;
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(ToQString(document.heading));
+    printer.setPageOrientation(document.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    QPrintPreviewDialog preview(&printer, QApplication::activeWindow());
+    preview.setWindowTitle(QStringLiteral("Print Preview"));
+    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested,
+                     [&document](QPrinter* target) { PaintPrintDocument(document, *target); });
+    preview.exec();
 }
 
 void QtPlatform::SetBusyCursor(bool busy) {

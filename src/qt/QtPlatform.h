@@ -22,6 +22,9 @@ public:
     int MsgBox(const std::string& prompt, int buttons, const std::string& title) override;
     std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) override;
     std::string PickFileToOpen(const std::string& title, const std::string& filter) override;
+    void PrintPreview(const PrintDocument& document) override;
+    std::string PickFileToSave(const std::string& title, const std::string& filter,
+                               const std::string& proposedName) override;
     void SetBusyCursor(bool busy) override;
     void DoEvents() override;
     void WaitForEvents(int milliseconds) override;

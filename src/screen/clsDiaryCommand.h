@@ -4,8 +4,10 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "platform/Platform.h"
+#include "screen/PrintDocument.h"
 
 namespace orbidex {
 
@@ -80,7 +82,11 @@ public:
     void EventAddMultidayEvent();
 
     // Printing: the present view as an HTML file in the data folder
+    /// Writes the view's HTML page as CommandPrint always has, then shows the print
+    /// preview of the view, from which the user prints it or saves it as PDF.
     void CommandPrint();
+    /// The printed form of the view on screen; an empty table for a view that has none.
+    PrintDocument PrintDocumentOfView();
     void ConvertListViewToHtml(ListView& list, const std::string& file);
     void ConvertGridToHtml(FlexGrid& grid, const std::string& file);
 
@@ -92,6 +98,14 @@ public:
     void ExportAppointments();
     /// The diary as HTML pages; the page of the month on screen opens in the desktop's browser.
     void ViewEventsInBrowser();
+    /// The events of the days the user names (or of the whole diary) and their
+    /// tasks, into an iCalendar file the user picks.
+    void ExportICalendar();
+    /// An iCalendar file the user picks, into the diary and the task list.
+    void ImportICalendar();
+    /// The iCalendar files among `files` (by the name's end ".ics" when `byName`),
+    /// into the diary one after the other; false when there is none.
+    bool ImportICalendarFiles(const std::vector<std::string>& files, bool byName = true);
     /// Opens the scratch pad beside the window, or brings it to the front.
     void ShowScratchPad();
 

@@ -108,6 +108,8 @@ public:
     Menu mnuFile{this, "mnuFile", "&File"};
     Menu mnuFileImport{this, "mnuFileImport", "&Import Appointments ...", &mnuFile};
     Menu mnuFileExport{this, "mnuFileExport", "&Export Appointments ...", &mnuFile};
+    Menu mnuFileImportICal{this, "mnuFileImportICal", "Import from i&Calendar ...", &mnuFile};
+    Menu mnuFileExportICal{this, "mnuFileExportICal", "Export to iCa&lendar ...", &mnuFile};
     Menu mnuFileSep1{this, "mnuFileSep1", "-", &mnuFile};
     Menu mnuFilePrint{this, "mnuFilePrint", "Print ...", &mnuFile};
     Menu mnuFileSep2{this, "mnuFileSep2", "-", &mnuFile};

@@ -113,6 +113,7 @@ void frmClientDiaryMain::gridDays_DragDrop(Control& source, long, long) {
 }
 
 void frmClientDiaryMain::gridDays_OLEDragDrop(const DataObject& data) {
+    if (data.HasFiles() && glbCmd.ImportICalendarFiles(data.Files)) return;
     const std::string details = Trim(ReplaceLineBreaks(data.Text));
     if (details.empty() || glbScreen.Mode() != "CALENDAR" || !currentCellFromPointer()) return;
     timerSecond.Enabled = false;

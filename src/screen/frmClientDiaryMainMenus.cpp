@@ -69,6 +69,8 @@ void frmClientDiaryMain::disableEntriesWithoutOperation() {
 void frmClientDiaryMain::bindMenus() {
     mnuFileImport.onClick = [] { glbCmd.ImportAppointments(); };
     mnuFileExport.onClick = [] { glbCmd.ExportAppointments(); };
+    mnuFileImportICal.onClick = [] { glbCmd.ImportICalendar(); };
+    mnuFileExportICal.onClick = [] { glbCmd.ExportICalendar(); };
     mnuFilePrint.Shortcut = "Ctrl+P";
     mnuFilePrint.onClick = [] { glbCmd.CommandPrint(); };
     mnuFileExit.onClick = [] { glbCmd.CommandExit(); };

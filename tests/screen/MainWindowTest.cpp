@@ -221,8 +221,9 @@ TEST_F(MainWindowTest, MenusToolBarAndIcons) {
         EXPECT_TRUE(Drawn(ProgramIcon(icon))) << icon;
     }
 
-    // A print of the day view is a page in the data folder, opened for the user.
+    // A print of the day view is a page in the data folder, and its preview.
     buttonAction("print")->trigger();
-    ASSERT_EQ(platform_.documents.size(), 1U);
-    EXPECT_TRUE(FileExists(platform_.documents[0]));
+    EXPECT_TRUE(platform_.documents.empty());
+    EXPECT_TRUE(FileExists(folder_.Stored() + "\\data\\Diary Events.htm"));
+    EXPECT_EQ(platform_.printed, std::vector<std::string>{"Events for Saturday, 5-Jun-2004"});
 }

@@ -42,10 +42,24 @@ TEST_F(PrintTest, TheGridPrintsItsCellsWithTheirColours) {
         grid.Col = col;
         grid.CellForeColor = colour;
     }
+    grid.SetRowHeight(0, 300);
+    grid.SetRowHeight(1, 300);
     Form().Toolbar1.UserClickButton(Form().Toolbar1.Buttons("print"));
 
     const std::string file = DataPath() + "Diary Events.htm";
-    EXPECT_EQ(platform_.DocumentsOpened(), (std::vector<std::string>{file}));
+    EXPECT_TRUE(platform_.DocumentsOpened().empty()) << "the print preview shows instead of the browser";
+    ASSERT_EQ(platform_.Printed().size(), 1U);
+    const PrintDocument& printed = platform_.Printed()[0];
+    EXPECT_EQ(printed.dates, "Saturday, 5 June 2004") << "the day on screen";
+    ASSERT_EQ(printed.rows.size(), 2U);
+    ASSERT_EQ(printed.rows[1].size(), 5U);
+    EXPECT_EQ(printed.rows[0][2].text, "Mon-31");
+    EXPECT_EQ(printed.rows[1][3].text, "Event 3");
+    EXPECT_EQ(printed.rows[1][3].foreColor, RGB(250, 240, 200));
+    EXPECT_EQ(printed.rows[1][0].foreColor, 0x000000U) << "the desktop's text colour prints black";
+    EXPECT_EQ(printed.headingRows, grid.FixedRows);
+    grid.SetRowHeight(0, 0);
+    EXPECT_EQ(glbCmd.PrintDocumentOfView().rows.size(), 1U) << "a hidden row does not print";
     const std::string page = ReadBytes(file);
     EXPECT_EQ(page.rfind(kHeader, 0), 0U);
     const std::string plain = "<TD valign=top align=left>";
@@ -83,9 +97,15 @@ TEST_F(PrintTest, EachModePrintsToItsOwnFile) {
     glbCmd.CommandPrint();
     glbScreen.SwitchMode("STAFF");
     glbCmd.CommandPrint();
-    EXPECT_EQ(platform_.DocumentsOpened(),
-              (std::vector<std::string>{DataPath() + "fred Tasks.htm", DataPath() + "fred Notes.htm",
-                                        DataPath() + "Staff.htm"}));
+    std::vector<std::string> headings;
+    for (const PrintDocument& printed : platform_.Printed()) headings.push_back(printed.heading);
+    // Each page is headed as the view is; no server answers the staff planner here.
+    EXPECT_EQ(headings,
+              (std::vector<std::string>{
+                  "Tasks", "Notes",
+                  "Staff Events for Saturday,  5-Jun-2004   (the server did not answer: its last answer is shown)"}));
+    EXPECT_TRUE(FileExists(DataPath() + "fred Tasks.htm"));
+    EXPECT_TRUE(FileExists(DataPath() + "Staff.htm"));
     EXPECT_TRUE(FileExists(DataPath() + "fred Notes.htm"));
 
     glbScreen.SwitchMode("MESSAGE");
@@ -94,7 +114,7 @@ TEST_F(PrintTest, EachModePrintsToItsOwnFile) {
     // The overview prints its own page.
     glbScreen.SwitchMode("HOME");
     glbCmd.CommandPrint();
-    EXPECT_EQ(platform_.DocumentsOpened().back(), DataPath() + "overview.htm");
+    EXPECT_EQ(platform_.Printed().back().htmlFile, DataPath() + "overview.htm");
 }
 
 TEST_F(PrintTest, TheStyleSheetIsWrittenWhenMissing) {

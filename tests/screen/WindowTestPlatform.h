@@ -16,6 +16,7 @@
 #include "controls/Form.h"
 #include "foundation/VbDate.h"
 #include "qt/QtPlatform.h"
+#include "screen/PrintDocument.h"
 
 namespace orbidex::test {
 
@@ -39,6 +40,8 @@ public:
         documents.push_back(file);
         return 42;
     }
+    /// Keeps the heading of each document instead of showing the modal preview.
+    void PrintPreview(const PrintDocument& document) override { printed.push_back(document.heading); }
     bool StartProcess(const std::string&) override { return true; }
     [[noreturn]] void EndProgram(int exitCode) override { throw ProgramEnded{exitCode}; }
 
@@ -67,6 +70,7 @@ public:
     std::vector<std::string> messages;
     std::deque<int> answers;
     std::vector<std::string> documents;
+    std::vector<std::string> printed;
 
 private:
     std::string folder_;

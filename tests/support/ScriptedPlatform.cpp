@@ -103,6 +103,13 @@ bool ScriptedPlatform::PickFont(const std::string& title, std::string& name, dou
     return true;
 }
 
+void ScriptedPlatform::PrintPreview(const PrintDocument& document) { printed_.push_back(document); }
+
+std::string ScriptedPlatform::PickFileToSave(const std::string& title, const std::string& filter,
+                                             const std::string& proposedName) {
+    return PickFileToOpen(title, filter + " [" + proposedName + "]");
+}
+
 void ScriptedPlatform::DoEvents() {
     ++doEventsCount_;
     // A wait that never ends would hang the test: stop it with a problem instead.

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/Platform.h"
+#include "screen/PrintDocument.h"
 
 namespace orbidex::test {
 
@@ -90,6 +91,13 @@ public:
     int MsgBox(const std::string& prompt, int buttons, const std::string& title) override;
     std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) override;
     std::string PickFileToOpen(const std::string& title, const std::string& filter) override;
+    /// Keeps the document, for Printed().
+    void PrintPreview(const PrintDocument& document) override;
+    /// The documents shown in a print preview, in order.
+    const std::vector<PrintDocument>& Printed() const { return printed_; }
+    /// Answers from the same queue as PickFileToOpen.
+    std::string PickFileToSave(const std::string& title, const std::string& filter,
+                               const std::string& proposedName) override;
     void SetBusyCursor(bool busy) override { busy_ = busy; }
     void DoEvents() override;
     void Beep() override { ++beeps_; }
@@ -127,6 +135,7 @@ private:
     std::deque<std::string> pickedFiles_;
     std::deque<long> colourAnswers_;
     std::deque<std::pair<std::string, double>> fontAnswers_;
+    std::vector<PrintDocument> printed_;
     std::vector<DialogRecord> transcript_;
     std::map<std::string, std::deque<std::function<void(Form&)>>> formScripts_;
     std::vector<std::string> formsShown_;
