@@ -86,7 +86,9 @@ void ControlWidget::refresh() {
 
 void ControlWidget::place() {
     if (placedByForm_) {
-        const QSize hint = sizeHint();
+        // A size hint measures the text, which loads the fonts: only when it is needed.
+        const bool sized = model_->Width > 0 && model_->Height > 0;
+        const QSize hint = sized ? QSize() : sizeHint();
         const int width = model_->Width > 0 ? TwipsToPixels(model_->Width) : hint.width();
         const int height = model_->Height > 0 ? TwipsToPixels(model_->Height) : hint.height();
         setGeometry(TwipsToPixels(model_->Left), TwipsToPixels(model_->Top), width, height);
