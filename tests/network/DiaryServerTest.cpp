@@ -5,10 +5,12 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <filesystem>
 
 #include "DiaryServer.h"
 #include "EventLines.h"
 #include "NetworkFixture.h"
+#include "foundation/FileHelpers.h"
 #include "foundation/FileSystem.h"
 
 using namespace orbidex;
@@ -17,11 +19,11 @@ using test::EventLine;
 namespace {
 
 // The names that appear in a folder ("+name": written, or moved in whole) and go
-// from it ("-name"), in the order the system saw them.
+// from it ("-name": deleted or moved out), in the order the system saw them.
 class FolderChanges {
 public:
     explicit FolderChanges(const std::string& folder) : fd_(::inotify_init1(IN_NONBLOCK)) {
-        ::inotify_add_watch(fd_, ToNativePath(folder).c_str(), IN_MOVED_TO | IN_DELETE);
+        ::inotify_add_watch(fd_, ToNativePath(folder).c_str(), IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE);
     }
     ~FolderChanges() { ::close(fd_); }
     FolderChanges(const FolderChanges&) = delete;
@@ -90,6 +92,7 @@ TEST_F(DiaryServerTest, HandedOverFilesGoIntoTheStoreAndOtherWorkStaysWhereItIs)
 }
 
 TEST_F(DiaryServerTest, AFileTheStoreCannotTakeStaysForTheNextPass) {
+    // The store cannot be made at all, or cannot write this one file.
     WriteBytes(Share() + ".server", "a file where the store should be");
     HandOver("D200406.dat_NET", "June\r\n");
     server_->Poll();
@@ -99,6 +102,15 @@ TEST_F(DiaryServerTest, AFileTheStoreCannotTakeStaysForTheNextPass) {
     EXPECT_EQ(serverLog_.back(), "could not keep mary\\D200406.dat_NET - it stays for the next pass");
 
     DeleteFile(Share() + ".server");
+    MakePathAux(StoreFolder("mary") + "D200406.dat_NET\\");
+    server_->Poll();
+    EXPECT_EQ(ReadBytes(Mary("D200406.dat_NET")), "June\r\n");
+    EXPECT_EQ(ReadBytes(Mary("D200406.dat_NET.OK")), "this was saved by the client on 2004-06-05 09:30:12\r\n");
+    EXPECT_FALSE(FileExists(Mary("SERVER.FIN")));
+    EXPECT_FALSE(FileExists(StoreFolder("mary") + "D200406.dat_NET.taken"));
+    EXPECT_EQ(serverLog_.back(), "could not keep mary\\D200406.dat_NET - it stays for the next pass");
+
+    std::filesystem::remove(ToNativePath(StoreFolder("mary") + "D200406.dat_NET"));
     server_->Poll();
     EXPECT_EQ(ReadBytes(StoreFolder("mary") + "D200406.dat_NET"), "June\r\n");
     EXPECT_EQ(ReadBytes(Mary("SERVER.FIN")), "taken over D200406.dat_NET\r\n");
@@ -256,4 +268,8 @@ TEST_F(DiaryServerTest, AQuestionIsGoneBeforeItsAnswerAppears) {
             EXPECT_NE(std::find(changes.begin(), answered, "-" + name), answered)
                 << name << " still stood when " << exchange.answer << " appeared";
     }
+    // A hand-over's ".OK" goes before its file: a copy handed over again meanwhile is
+    // either the one taken or stands with its own ".OK".
+    EXPECT_LT(std::find(maryChanges.begin(), maryChanges.end(), "-D200406.dat_NET.OK"),
+              std::find(maryChanges.begin(), maryChanges.end(), "-D200406.dat_NET"));
 }

@@ -130,19 +130,41 @@ void DiaryServer::takeOverHandedFiles(const UserFolder& folder) {
             DeleteFile(confirm);
             continue;
         }
-        // A client that hands the file over again deletes the ".OK" first: a file
-        // whose ".OK" went while it was read may be half copied, and waits.
-        std::string bytes;
-        if (!FileExists(confirm) || !ReadWholeFile(folder.path + name, bytes) || !FileExists(confirm)) continue;
-        if (!keepInStore(folder, name, bytes)) {
+        // The ".OK" is taken first, then the file is moved out of the client's folder:
+        // a client that hands the file over again meanwhile (it deletes the ".OK",
+        // replaces the file whole, then writes a new ".OK") either had its new copy
+        // moved out here, or has it standing with its own ".OK" for the next pass.
+        // Nothing the client wrote after the ".OK" is ever deleted unstored.
+        const std::string store = StoreFolder(folder.user);
+        std::string confirmText;
+        if (!MakePathAux(store) || !FolderExists(store)) {
             log("could not keep " + folder.user + "\\" + name + " - it stays for the next pass");
             continue;
         }
-        DeleteFile(folder.path + name);
-        DeleteFile(confirm);
+        if (!ReadWholeFile(confirm, confirmText) || !DeleteFile(confirm)) continue;  // handed over anew
+        const std::string taken = store + name + ".taken";
+        std::string bytes;
+        if (!RenameFile(folder.path + name, taken) || !ReadWholeFile(taken, bytes)) continue;
+        if (!keepInStore(folder, name, bytes)) {
+            putBack(folder.path + name, taken, confirm, confirmText);
+            log("could not keep " + folder.user + "\\" + name + " - it stays for the next pass");
+            continue;
+        }
+        DeleteFile(taken);
         WriteWholeFile(folder.path + std::string(sf::kServerFin), "taken over " + name + "\r\n");
         log("took over " + folder.user + "\\" + name);
     }
+}
+
+// A file the store could not keep goes back with its ".OK", unless the client has
+// handed over a newer copy meanwhile.
+void DiaryServer::putBack(const std::string& file, const std::string& taken, const std::string& confirm,
+                          const std::string& confirmText) {
+    if (FileExists(file) || !RenameFile(taken, file)) {
+        DeleteFile(taken);
+        return;
+    }
+    WriteWholeFile(confirm, confirmText);
 }
 
 // A change list goes on to the users of the meetings it changes; every other file

@@ -44,6 +44,8 @@ private:
     void answerPing(const UserFolder& folder);
     void takeOverHandedFiles(const UserFolder& folder);
     bool keepInStore(const UserFolder& folder, const std::string& name, const std::string& bytes);
+    static void putBack(const std::string& file, const std::string& taken, const std::string& confirm,
+                        const std::string& confirmText);
     void answerRequest(const UserFolder& folder);
     std::string searchResults(const std::string& requestText, const std::string& asker) const;
     void routeWork(const UserFolder& folder);
