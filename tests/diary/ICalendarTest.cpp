@@ -21,10 +21,7 @@ using orbidex::test::Fields;
 namespace {
 
 std::string Golden(const std::string& name) {
-    std::string bytes;
-    EXPECT_TRUE(ReadWholeFile(ToStoredPath(std::string(ORBIDEX_DIARY_GOLDEN_DIR) + "/icalendar/" + name), bytes))
-        << name;
-    return bytes;
+    return test::ReadGolden(ORBIDEX_DIARY_GOLDEN_DIR "/icalendar", name);
 }
 
 // The lines that are not blank, each without its identifier (the first field).
