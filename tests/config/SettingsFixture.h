@@ -30,9 +30,7 @@ protected:
     }
     /// A file of tests/config/golden, "{PROGRAM_FOLDER}" replaced by the program folder.
     std::string Golden(const std::string& name) const {
-        std::string text;
-        EXPECT_TRUE(ReadWholeFile(ToStoredPath(std::string(ORBIDEX_CONFIG_GOLDEN_DIR) + "/" + name), text)) << name;
-        return Replace(text, "{PROGRAM_FOLDER}", folder_.Stored());
+        return Replace(ReadGolden(ORBIDEX_CONFIG_GOLDEN_DIR, name), "{PROGRAM_FOLDER}", folder_.Stored());
     }
 };
 

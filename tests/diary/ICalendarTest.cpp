@@ -21,10 +21,7 @@ using orbidex::test::Fields;
 namespace {
 
 std::string Golden(const std::string& name) {
-    std::string bytes;
-    EXPECT_TRUE(ReadWholeFile(ToStoredPath(std::string(ORBIDEX_DIARY_GOLDEN_DIR) + "/icalendar/" + name), bytes))
-        << name;
-    return bytes;
+    return test::ReadGolden(ORBIDEX_DIARY_GOLDEN_DIR "/icalendar", name);
 }
 
 // The lines that are not blank, each without its identifier (the first field).
@@ -33,13 +30,6 @@ std::vector<std::string> WithoutIds(const std::vector<std::string>& lines) {
     for (const std::string& line : lines)
         if (!Trim(line).empty()) result.push_back(line.substr(std::min(line.size(), line.find('\x1F'))));
     return result;
-}
-
-// An event as an import writes it: the fields the file gave, the rest empty.
-std::string Event(const std::string& id, const std::string& date, const std::string& time, const std::string& length,
-                  const std::string& details, const std::string& location = "", const std::string& remindDate = "",
-                  const std::string& remindTime = "") {
-    return Fields({id, date, "", time, length, "", "", "", "", remindDate, remindTime, "", "", location, details});
 }
 
 std::string Calendar(const std::string& body) {
@@ -119,85 +109,21 @@ TEST_F(ICalendarTest, TheLibraryFindsTheFaultsOfABrokenCalendar) {
     EXPECT_EQ(ICalendarProblems("not a calendar"), std::vector<std::string>{"not one calendar"});
 }
 
-namespace {
-
-const char* const kStamp = "DTSTAMP:20040601T120000Z\r\n";
-
-const std::string kNewYork =
-    "BEGIN:VTIMEZONE\r\nTZID:America/New_York\r\n"
-    "BEGIN:DAYLIGHT\r\nTZOFFSETFROM:-0500\r\nTZOFFSETTO:-0400\r\nTZNAME:EDT\r\nDTSTART:19700308T020000\r\n"
-    "RRULE:FREQ=YEARLY;BYMONTH=3;BYDAY=2SU\r\nEND:DAYLIGHT\r\n"
-    "BEGIN:STANDARD\r\nTZOFFSETFROM:-0400\r\nTZOFFSETTO:-0500\r\nTZNAME:EST\r\nDTSTART:19701101T020000\r\n"
-    "RRULE:FREQ=YEARLY;BYMONTH=11;BYDAY=1SU\r\nEND:STANDARD\r\nEND:VTIMEZONE\r\n";
-
-std::string VEvent(const std::string& uid, const std::string& lines) {
-    return "BEGIN:VEVENT\r\nUID:" + uid + "\r\n" + kStamp + lines + "END:VEVENT\r\n";
-}
-
-const std::string kWeekly =
-    Calendar(VEvent("w1",
-                    "DTSTART:20040601T100000\r\nDTEND:20040601T110000\r\nRRULE:FREQ=WEEKLY;COUNT=6\r\n"
-                    "EXDATE:20040615T100000\r\nSUMMARY:Team meeting\r\n") +
-             VEvent("w1",
-                    "RECURRENCE-ID:20040622T100000\r\nDTSTART:20040623T140000\r\nDTEND:20040623T150000\r\n"
-                    "SUMMARY:Team meeting (moved)\r\n"));
-
-}  // namespace
-
+// Each calendar of golden/icalendar/import/ imported into an empty diary: the
+// months it fills, each compared whole with "<calendar>-<month file>".
 TEST_F(ICalendarTest, ImportOfTheFilesOtherProgramsWrite) {
     const struct {
         const char* name;
-        std::string text;
         const char* repeatRange;  // the answer to the question, or nullptr for no question
-        std::vector<std::pair<std::string, std::vector<std::string>>> files;
+        std::vector<std::string> months;
         std::string summary;
     } cases[] = {
-        {"allday.ics",
-         Calendar(VEvent("a1", "DTSTART;VALUE=DATE:20040614\r\nDTEND;VALUE=DATE:20040615\r\nSUMMARY:Bank holiday\r\n") +
-                  VEvent("a2",
-                         "DTSTART;VALUE=DATE:20040629\r\nDTEND;VALUE=DATE:20040702\r\nSUMMARY:Conference\r\n"
-                         "LOCATION:Leeds\\, Town Hall\r\n")),
+        {"allday", nullptr, {"D200406.dat", "D200407.dat"}, "Imported from allday.ics: 4 events and 0 tasks."},
+        {"weekly", "2004-06-01 to 2004-06-30", {"D200406.dat"}, "Imported from weekly.ics: 4 events and 0 tasks."},
+        {"zones", nullptr, {"D200401.dat", "D200406.dat"}, "Imported from zones.ics: 3 events and 0 tasks."},
+        {"broken",
          nullptr,
-         {{"D200406.dat",
-           {"", Event("D200406140001", "20040614", "0000", "1", "Bank holiday"),
-            Event("D200406290001", "20040629", "0000", "1", "Conference", "Leeds, Town Hall"),
-            Event("D200406300001", "20040630", "0000", "1", "Conference", "Leeds, Town Hall")}},
-          {"D200407.dat", {"", Event("D200407010001", "20040701", "0000", "1", "Conference", "Leeds, Town Hall")}}},
-         "Imported from allday.ics: 4 events and 0 tasks."},
-        {"weekly.ics",
-         kWeekly,
-         "2004-06-01 to 2004-06-30",
-         {{"D200406.dat",
-           {"", Event("D200406010001", "20040601", "1000", "60", "Team meeting"),
-            Event("D200406080001", "20040608", "1000", "60", "Team meeting"),
-            Event("D200406290001", "20040629", "1000", "60", "Team meeting"),
-            Event("D200406230001", "20040623", "1400", "60", "Team meeting (moved)")}}},
-         "Imported from weekly.ics: 4 events and 0 tasks."},
-        {"zones.ics",
-         Calendar(kNewYork +
-                  VEvent("t1",
-                         "DTSTART;TZID=America/New_York:20040610T090000\r\n"
-                         "DTEND;TZID=America/New_York:20040610T103000\r\nSUMMARY:Call with New York\r\n") +
-                  VEvent("t2",
-                         "DTSTART;TZID=America/New_York:20040115T090000\r\nDURATION:PT30M\r\n"
-                         "SUMMARY:Winter call\r\n") +
-                  VEvent("t3",
-                         "DTSTART:20040611T230000Z\r\nDURATION:PT2H\r\nSUMMARY:Late flight\r\n"
-                         "BEGIN:VALARM\r\nACTION:DISPLAY\r\nTRIGGER:-PT30M\r\nDESCRIPTION:Flight\r\n"
-                         "END:VALARM\r\n")),
-         nullptr,
-         {{"D200406.dat",
-           {"", Event("D200406100001", "20040610", "1400", "90", "Call with New York"),
-            Event("D200406120001", "20040612", "0000", "120", "Late flight", "", "20040611", "2330")}},
-          {"D200401.dat", {"", Event("D200401150001", "20040115", "1400", "30", "Winter call")}}},
-         "Imported from zones.ics: 3 events and 0 tasks."},
-        {"broken.ics",
-         Calendar(VEvent("b1", "DTSTART:20040616T120000\r\nDURATION:PT1H\r\nSUMMARY:Lunch\r\nTHIS LINE IS BROKEN\r\n") +
-                  VEvent("b2", "SUMMARY:No date\r\n") +
-                  "BEGIN:VJOURNAL\r\nUID:j1\r\nDTSTAMP:20040601T120000Z\r\nSUMMARY:Diary entry\r\nEND:VJOURNAL\r\n" +
-                  VEvent("b3", "DTSTART:20040617T120000\r\nSTATUS:CANCELLED\r\nSUMMARY:Called off\r\n")),
-         nullptr,
-         {{"D200406.dat", {"", Event("D200406160001", "20040616", "1200", "60", "Lunch")}}},
+         {"D200406.dat"},
          "Imported from broken.ics: 1 events and 0 tasks.\r\n\r\n"
          "Skipped (3):\r\nNo date - it has no start date\r\nVJOURNAL - not an event or a to-do\r\n"
          "20040617 Called off - it is cancelled\r\n\r\n"
@@ -205,13 +131,18 @@ TEST_F(ICalendarTest, ImportOfTheFilesOtherProgramsWrite) {
          "Got a data line, but could not find a property name or component begin tag: THIS LINE IS BROKEN"},
     };
     for (const auto& c : cases) {
-        for (const char* month : {"D200401.dat", "D200406.dat", "D200407.dat"}) DeleteFile(Data(month));
+        SCOPED_TRACE(c.name);
+        for (const std::string& month : ListFolder(Data("D2*.dat"), false)) DeleteFile(Data(month));
         platform_.ClearTranscript();
         if (c.repeatRange != nullptr) platform_.QueueInputAnswer(c.repeatRange);
-        Import(c.name, c.text);
-        for (const auto& [file, lines] : c.files) EXPECT_EQ(Lines(file), lines) << c.name << " " << file;
-        EXPECT_EQ(LastMessage(), c.summary) << c.name;
-        EXPECT_EQ(platform_.Transcript().size(), c.repeatRange != nullptr ? 2U : 1U) << c.name;
+        Import(std::string(c.name) + ".ics", Golden(std::string("import/") + c.name + ".ics"));
+        std::vector<std::string> months = ListFolder(Data("D2*.dat"), false);
+        std::sort(months.begin(), months.end());
+        EXPECT_EQ(months, c.months);
+        for (const std::string& month : c.months)
+            EXPECT_EQ(ReadBytes(Data(month)), Golden(std::string("import/") + c.name + "-" + month)) << month;
+        EXPECT_EQ(LastMessage(), c.summary);
+        EXPECT_EQ(platform_.Transcript().size(), c.repeatRange != nullptr ? 2U : 1U);
     }
 }
 
@@ -232,11 +163,12 @@ TEST_F(ICalendarTest, ToDosBecomeTasksWithTheirDueTimePriorityStatusAndReminder)
 }
 
 TEST_F(ICalendarTest, ASecondImportOfTheSameFileAddsNothing) {
+    const std::string weekly = Golden("import/weekly.ics");
     platform_.QueueInputAnswer("2004-06-01 to 2004-06-30");
-    Import("weekly.ics", kWeekly);
+    Import("weekly.ics", weekly);
     const std::vector<std::string> first = Lines("D200406.dat");
     platform_.QueueInputAnswer("2004-06-01 to 2004-06-30");
-    Import("weekly.ics", kWeekly);
+    Import("weekly.ics", weekly);
     EXPECT_EQ(Lines("D200406.dat"), first);
     EXPECT_EQ(LastMessage(),
               "Imported from weekly.ics: 0 events and 0 tasks.\r\n\r\nNot added (4):\r\n"
@@ -246,14 +178,15 @@ TEST_F(ICalendarTest, ASecondImportOfTheSameFileAddsNothing) {
 }
 
 TEST_F(ICalendarTest, NothingIsWrittenWhenTheQuestionIsCancelledOrTheFileIsNoCalendar) {
+    const std::string weekly = Golden("import/weekly.ics");
     const struct {
         const char* name;
         std::string text;
         const char* answer;
         std::string message;
     } cases[] = {
-        {"weekly.ics", kWeekly, "", ""},
-        {"weekly.ics", kWeekly, "next week",
+        {"weekly.ics", weekly, "", ""},
+        {"weekly.ics", weekly, "next week",
          "\"next week\" is not two dates as yyyy-mm-dd to yyyy-mm-dd.\r\nNothing was imported."},
         {"notes.ics", "Just some notes\r\n", nullptr, "notes.ics holds no iCalendar data.\r\nNothing was imported."},
     };

@@ -36,9 +36,7 @@ std::string Utf16WithMark(const std::u16string& text) {
 }
 
 std::string Golden(const std::string& name) {
-    std::string bytes;
-    EXPECT_TRUE(ReadWholeFile(ToStoredPath(std::string(ORBIDEX_DIARY_GOLDEN_DIR) + "/" + name), bytes)) << name;
-    return bytes;
+    return test::ReadGolden(ORBIDEX_DIARY_GOLDEN_DIR, name);
 }
 
 }  // namespace

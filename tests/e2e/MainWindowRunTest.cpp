@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "EventLines.h"
 #include "ProgramRun.h"
 #include "foundation/FileSystem.h"
 #include "foundation/VbString.h"
@@ -16,9 +17,9 @@ using orbidex::test::ProgramRun;
 namespace {
 
 std::string eventLine(const std::string& date, const std::string& time, const std::string& details) {
-    const std::string f = "\x1F";
-    return "D" + date + "0001" + f + date + f + "Office" + f + time + f + "30" + f + "Call" + f + f + f + f + f + f +
-           "Normal" + f + f + f + details + f + "\r\n";
+    return orbidex::test::Fields(
+               {"D" + date + "0001", date, "Office", time, "30", "Call", "", "", "", "", "", "Normal", "", "", details}) +
+           "\r\n";
 }
 
 }  // namespace

@@ -12,17 +12,14 @@
 #include <filesystem>
 #include <fstream>
 
+#include "EventLines.h"
 #include "ProgramRun.h"
 
 using orbidex::test::ProgramRun;
 
 namespace {
 
-std::string line(const std::vector<std::string>& fields) {
-    std::string text;
-    for (const std::string& field : fields) text += field + "\x1F";
-    return text + "\r\n";
-}
+std::string line(const std::vector<std::string>& fields) { return orbidex::test::Fields(fields) + "\r\n"; }
 
 std::string eventLine(const QDateTime& when, const std::string& details, const std::string& remindTime = "") {
     const std::string date = when.toString(QStringLiteral("yyyyMMdd")).toStdString();

@@ -3,10 +3,6 @@
 // for the others, and their diaries receive it.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
 #include "EventLines.h"
 #include "NetworkFixture.h"
 #include "TimeSlots.h"
@@ -29,13 +25,6 @@ using test::EventLine;
 using test::Fields;
 
 namespace {
-
-std::string golden(const std::string& name) {
-    std::ifstream in(std::filesystem::path(ORBIDEX_NETWORK_GOLDEN_DIR) / name, std::ios::binary);
-    std::stringstream bytes;
-    bytes << in.rdbuf();
-    return bytes.str();
-}
 
 // The grid as text: one line a row, each cell with text as [column]text; a cell
 // whose text cannot be seen (its colour is its back colour) as [column]-.
@@ -108,7 +97,7 @@ TEST_F(StaffPlannerTest, ADayAndAWeekShowEachUsersSharedEventsInTheirCells) {
     glbScreen.SwitchMode("STAFF");
     EXPECT_EQ(MainForm().lvUsers.ListItems.Count(), 3);
     EXPECT_EQ(glbTickedUsers, "ann, fred, mary, ");
-    EXPECT_EQ(Rendered(Grid()), golden("staff-day.txt"));
+    EXPECT_EQ(Rendered(Grid()), test::ReadGolden(ORBIDEX_NETWORK_GOLDEN_DIR, "staff-day.txt"));
     EXPECT_EQ(MainForm().lblHeading.Caption(), "  Staff Events for Saturday,  5-Jun-2004");
     EXPECT_EQ(MainForm().Caption(), "Staff Planner - Brindlewick Softwares Orbidex");
     EXPECT_EQ(MainForm().lblUsers.Caption(), "3 of 3 Staff displayed");
@@ -122,7 +111,7 @@ TEST_F(StaffPlannerTest, ADayAndAWeekShowEachUsersSharedEventsInTheirCells) {
     glbConfig.ShowLocation = 0;
     glbConfig.ShowTotals = 1;
     MainForm().MonthView1.UserClickDate(DateSerial(2004, 6, 7));
-    EXPECT_EQ(Rendered(Grid()), golden("staff-week.txt"));
+    EXPECT_EQ(Rendered(Grid()), test::ReadGolden(ORBIDEX_NETWORK_GOLDEN_DIR, "staff-week.txt"));
     EXPECT_EQ(MainForm().lblHeading.Caption(), "  Staff Events for Monday,  7-Jun-2004 (7 days)");
     EXPECT_EQ(Requests(), 1) << "the week lies in the window of the first request";
 }

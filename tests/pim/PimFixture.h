@@ -28,11 +28,7 @@ protected:
     static std::string Closed(const std::string& text) { return Replace(Replace(text, "|", "\x1F"), "~", "\x1E"); }
 
     /// A file of tests/pim/golden.
-    std::string Golden(const std::string& name) const {
-        std::string bytes;
-        EXPECT_TRUE(ReadWholeFile(ToStoredPath(std::string(ORBIDEX_PIM_GOLDEN_DIR) + "/" + name), bytes)) << name;
-        return bytes;
-    }
+    static std::string Golden(const std::string& name) { return ReadGolden(ORBIDEX_PIM_GOLDEN_DIR, name); }
     /// Copies the hand-written data folder of tests/pim/golden into the program's.
     void CopyGoldenData() const {
         std::filesystem::copy(

@@ -2,6 +2,7 @@
 // clicks on the lists, the end of the program.
 #include <gtest/gtest.h>
 
+#include "EventLines.h"
 #include "MainScreenFixture.h"
 #include "config/clsConfigDiary.h"
 #include "diary/cDiaryRecords.h"
@@ -129,17 +130,8 @@ TEST_F(CommandsTest, NoteModeAnswersTheListFilters) {
 }
 
 TEST_F(CommandsTest, AClickedEventRowBecomesTheCurrentEvent) {
-    WriteBytes(DataPath() + "D200406.dat",
-               "D200406050001\x1F"
-               "20040605\x1F\x1F"
-               "0900\x1F"
-               "30\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F"
-               "First\x1F\r\n"
-               "D200406050002\x1F"
-               "20040605\x1F\x1F"
-               "1000\x1F"
-               "30\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F\x1F"
-               "Second\x1F\r\n");
+    WriteBytes(DataPath() + "D200406.dat", test::EventLine("D200406050001", "20040605", "0900", "First") + "\r\n" +
+                                               test::EventLine("D200406050002", "20040605", "1000", "Second") + "\r\n");
     StartProgram();
     click("list");
     ListView& list = Form().lvDiary;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "EventLines.h"
 #include "MainScreenFixture.h"
 #include "config/clsConfigDiary.h"
 #include "dialogs/frmEditEvent.h"
@@ -22,22 +23,18 @@ using namespace orbidex;
 
 namespace {
 
-std::string Fields(const std::vector<std::string>& fields) {
-    std::string line;
-    for (const std::string& field : fields) line += field + "\x1F";
-    return line + "\r\n";
-}
-
-std::string Event(const std::string& id, const std::string& time, const std::string& details) {
-    return Fields(
-        {id, "20040605", "Phone", time, "30", "Call", "fred", "", "", "", "", "Normal", "", "Office", details});
+// An event of the usual fields as its line stands in the file.
+std::string Event(const std::string& id, const std::string& time, const std::string& details,
+                  const std::string& date = "20040605") {
+    return test::EventLine(id, date, time, details) + "\r\n";
 }
 
 // An event as the editor saves a new one: the user as contact, half an hour long.
 std::string Added(const std::string& id, const std::string& date, const std::string& time, const std::string& details,
                   const std::string& remind = "") {
-    return Fields(
-        {id, date, "", time, "30", "", "fred", "", "", remind.empty() ? "" : date, remind, "", "", "", details});
+    return test::Fields({id, date, "", time, "30", "", "fred", "", "", remind.empty() ? "" : date, remind, "", "", "",
+                         details}) +
+           "\r\n";
 }
 
 }  // namespace
@@ -167,10 +164,8 @@ TEST_F(EventCommandsTest, EditDeleteAndRescheduleFromTheMenusAndThePopUpMenuActO
 
 TEST_F(EventCommandsTest, InTheWeekTheRescheduleTakesTheEventOfTheSelectedCell) {
     // Monday's and Tuesday's calls share the 10:00 row; Tuesday's is placed last.
-    const std::string monday = Fields({"D200406070001", "20040607", "Phone", "1000", "30", "Call", "fred", "", "", "",
-                                       "", "Normal", "", "Office", "Monday call"});
-    const std::string tuesday = Fields({"D200406080001", "20040608", "Phone", "1000", "30", "Call", "fred", "", "", "",
-                                        "", "Normal", "", "Office", "Tuesday call"});
+    const std::string monday = Event("D200406070001", "1000", "Monday call", "20040607");
+    const std::string tuesday = Event("D200406080001", "1000", "Tuesday call", "20040608");
     Start(monday + tuesday);
     Toolbar("week");
     Form().MonthView1.UserClickDate(DateSerial(2004, 6, 7));
@@ -283,9 +278,7 @@ TEST_F(SelectionAfterSaveTest, ARescheduleMovesTheEventClicked) {
     });
     Grid().UserClickCell(3, 2);  // 10:00
     Form().mnuAppReschedule.UserClick();
-    EXPECT_EQ(File("200406"), standupAtNine_ + lunch_ +
-                                  Fields({"D200406060001", "20040606", "Phone", "1000", "30", "Call", "fred", "", "",
-                                          "", "", "Normal", "", "Office", "Dentist"}));
+    EXPECT_EQ(File("200406"), standupAtNine_ + lunch_ + Event("D200406060001", "1000", "Dentist", "20040606"));
     EXPECT_EQ(MonthlyFiles(), std::vector<std::string>{"D200406.dat"});
 }
 
@@ -315,7 +308,6 @@ TEST_F(SelectionAfterSaveTest, AnEditThatMovesToAnotherMonthMovesTheEventDoubleC
     });
     DoubleClick(7, 2);
     EXPECT_EQ(File("200406"), standupAtNine_ + dentist_);
-    EXPECT_EQ(File("200407"), "\r\n" + Fields({"D200407030001", "20040703", "Phone", "1200", "30", "Call", "fred", "",
-                                               "", "", "", "Normal", "", "Office", "Lunch"}));
+    EXPECT_EQ(File("200407"), "\r\n" + Event("D200407030001", "1200", "Lunch", "20040703"));
     EXPECT_EQ(MonthlyFiles(), (std::vector<std::string>{"D200406.dat", "D200407.dat"}));
 }

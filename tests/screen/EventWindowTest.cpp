@@ -10,6 +10,7 @@
 #include <QTextEdit>
 #include <algorithm>
 
+#include "EventLines.h"
 #include "ProgramWindowFixture.h"
 #include "ViewTestSupport.h"
 #include "dialogs/frmDateGenerator.h"
@@ -32,9 +33,7 @@ namespace {
 
 // An event line as the bank's: an office call of half an hour.
 std::string Line(const std::string& id, const std::string& date, const std::string& time, const std::string& details) {
-    const std::string f = "\x1F";
-    return id + f + date + f + "Office" + f + time + f + "30" + f + "Call" + f + f + f + f + f + f + "Normal" + f + f +
-           f + details + f + "\r\n";
+    return test::Fields({id, date, "Office", time, "30", "Call", "", "", "", "", "", "Normal", "", "", details}) + "\r\n";
 }
 
 const std::string kBank = Line("D200406050001", "20040605", "1400", "Ring the bank");

@@ -8,6 +8,7 @@
 #include <QTextBrowser>
 #include <QTextEdit>
 
+#include "EventLines.h"
 #include "ProgramWindowFixture.h"
 #include "ViewTestSupport.h"
 #include "accessories/frmClipboard.h"
@@ -24,9 +25,7 @@ namespace {
 
 std::string eventLine(const std::string& id, const std::string& date, const std::string& time,
                       const std::string& details) {
-    const std::string f = "\x1F";
-    return id + f + date + f + "Office" + f + time + f + "30" + f + "Call" + f + "fred" + f + f + f + f + f + "Normal" +
-           f + f + "Office" + f + details + f + "\r\n";
+    return test::EventLine(id, date, time, details, "Office") + "\r\n";
 }
 
 }  // namespace

@@ -24,12 +24,6 @@ std::string task(const std::string& id, const std::string& status, const std::st
     return Fields({id, "20040601", "", "0900", "60", "", "", "", "", "", "", "", status, "", details}) + "\r\n";
 }
 
-std::string golden(const std::string& name) {
-    std::string bytes;
-    EXPECT_TRUE(ReadWholeFile(ToStoredPath(std::string(ORBIDEX_SCREEN_GOLDEN_DIR) + "/" + name), bytes)) << name;
-    return bytes;
-}
-
 }  // namespace
 
 class OverviewTest : public test::MainScreenFixture {
@@ -56,7 +50,7 @@ TEST_F(OverviewTest, TheDaysPageHoldsTodayTomorrowAndTheTasksToDo) {
     Form().web.onNavigateComplete2 = [&](const std::string& url) { shown.push_back(url); };
     glbScreen.SwitchMode("HOME");
 
-    EXPECT_EQ(Page(), golden("overview.htm"));
+    EXPECT_EQ(Page(), test::ReadGolden(ORBIDEX_SCREEN_GOLDEN_DIR, "overview.htm"));
     // The waiting page stands in the pane while the page is written.
     EXPECT_EQ(shown, (std::vector<std::string>{DataPath() + "waiting.html", DataPath() + "overview.htm"}));
     const std::string waiting = ReadBytes(DataPath() + "waiting.html");

@@ -218,9 +218,7 @@ TEST_F(SearchWindowsTest, TheListSortsByAnyColumnAndIsSavedWithItsHeading) {
     platform_.QueueInputAnswer(Stored("found.csv"));
     Results().mnuResultsSaveAs[0].UserClick();
     EXPECT_EQ(platform_.Transcript().back().title, "Saving List");
-    std::string golden;
-    ASSERT_TRUE(ReadWholeFile(ToStoredPath(ORBIDEX_SEARCH_GOLDEN_DIR "/found.csv"), golden));
-    EXPECT_EQ(ReadBytes(Stored("found.csv")), golden);
+    EXPECT_EQ(ReadBytes(Stored("found.csv")), test::ReadGolden(ORBIDEX_SEARCH_GOLDEN_DIR, "found.csv"));
     platform_.QueueInputAnswer(Stored("found.txt"));
     Results().mnuResultsSaveAs[1].UserClick();
     EXPECT_NE(ReadBytes(Stored("found.txt")).find("- Note -\t \t \tNote\tTrip plans\tnote\r\n"), std::string::npos);

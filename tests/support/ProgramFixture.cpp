@@ -7,6 +7,12 @@
 
 namespace orbidex::test {
 
+std::string ReadGolden(const std::string& folder, const std::string& name) {
+    std::string bytes;
+    EXPECT_TRUE(ReadWholeFile(ToStoredPath(folder + "/" + name), bytes)) << name;
+    return bytes;
+}
+
 void ProgramFixture::SetUp() {
     ResetProgramState();
     platform_.SetProgramFolder(folder_.Stored());

@@ -13,6 +13,9 @@
 
 namespace orbidex::test {
 
+/// The bytes of the file `name` of a folder of golden files; a missing file fails the test.
+std::string ReadGolden(const std::string& folder, const std::string& name);
+
 class ProgramFixture : public ::testing::Test {
 protected:
     void SetUp() override;
