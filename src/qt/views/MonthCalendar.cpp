@@ -98,12 +98,13 @@ void MonthCalendar::measure() {
     textHeight_ = metrics.height();
     ascent_ = metrics.ascent();
     descent_ = metrics.descent();
-    cellWidth_ = boldMetrics.horizontalAdvance(QStringLiteral("88")) + kCellPadding;
     cellHeight_ = textHeight_ + kCellPadding / 2;
-    for (int number = 1; number < static_cast<int>(numberWidth_.size()); ++number) {
-        numberWidth_[number] = metrics.horizontalAdvance(QString::number(number));
-        boldNumberWidth_[number] = boldMetrics.horizontalAdvance(QString::number(number));
+    // Digits are measured one by one: a number is as wide as its digits.
+    for (int digit = 0; digit < 10; ++digit) {
+        digitWidth_[digit] = metrics.horizontalAdvance(QChar(u'0' + digit));
+        boldDigitWidth_[digit] = boldMetrics.horizontalAdvance(QChar(u'0' + digit));
     }
+    cellWidth_ = 2 * *std::max_element(boldDigitWidth_.begin(), boldDigitWidth_.end()) + kCellPadding;
     const QLocale locale;
     for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
         initials_[day - 1] = locale.dayName(day, QLocale::ShortFormat).left(1);
@@ -353,6 +354,13 @@ void MonthCalendar::drawCentred(QPainter& painter, const QRect& rect, const QStr
     painter.drawText(QPoint(x, y), text);
 }
 
+void MonthCalendar::drawNumber(QPainter& painter, const QRect& rect, int number, bool bold) const {
+    const QString text = QString::number(number);
+    int width = 0;
+    for (const QChar digit : text) width += (bold ? boldDigitWidth_ : digitWidth_)[digit.unicode() - u'0'];
+    drawCentred(painter, rect, text, width);
+}
+
 void MonthCalendar::paintWeekDays(QPainter& painter) {
     painter.setFont(font());
     const int top = titleHeight();
@@ -372,9 +380,7 @@ void MonthCalendar::paintWeekNumbers(QPainter& painter) {
     painter.setPen(palette().color(QPalette::WindowText));
     for (int row = 0; row < kRows; ++row) {
         const QRect cell = cellRect(row, 0);
-        const int week = weekNumberOfRow(row);
-        drawCentred(painter, QRect(0, cell.top(), column.width(), cell.height()), QString::number(week),
-                    numberWidth_[week]);
+        drawNumber(painter, QRect(0, cell.top(), column.width(), cell.height()), weekNumberOfRow(row), false);
     }
 }
 
@@ -403,8 +409,7 @@ void MonthCalendar::paintDay(QPainter& painter, int row, int column) {
     const bool bold = std::find(bold_.begin(), bold_.end(), date) != bold_.end();
     painter.setFont(bold ? boldFont_ : font());
     painter.setPen(text);
-    const int day = date.day();
-    drawCentred(painter, cell, QString::number(day), bold ? boldNumberWidth_[day] : numberWidth_[day]);
+    drawNumber(painter, cell, date.day(), bold);
 }
 
 }  // namespace orbidex

@@ -95,6 +95,8 @@ private:
     void paintDay(QPainter& painter, int row, int column);
     /// Draws `text` of width `width` centred in `rect`.
     void drawCentred(QPainter& painter, const QRect& rect, const QString& text, int width) const;
+    /// Draws `number` centred in `rect`.
+    void drawNumber(QPainter& painter, const QRect& rect, int number, bool bold) const;
     void paintChevron(QPainter& painter, const QRect& button, bool toLeft, bool enabled);
 
     QDate first_;
@@ -113,9 +115,9 @@ private:
     int textHeight_ = 0;
     int ascent_ = 0;
     int descent_ = 0;
-    /// Widths of the numbers 1-53 (days and weeks) in the font and in bold.
-    std::array<int, 54> numberWidth_{};
-    std::array<int, 54> boldNumberWidth_{};
+    /// Widths of the digits in the font and in bold.
+    std::array<int, 10> digitWidth_{};
+    std::array<int, 10> boldDigitWidth_{};
     /// The initials of the week days, Monday first, and their widths.
     std::array<QString, 7> initials_;
     std::array<int, 7> initialWidth_{};
