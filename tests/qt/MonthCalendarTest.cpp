@@ -175,10 +175,13 @@ TEST_F(MonthCalendarTest, TheButtonsTheWheelAndHomeEndTurnWithinTheDiarysYears) 
     QTest::keyClick(&calendar, Qt::Key_End);
     EXPECT_EQ(heard(), std::vector<std::string>{"clicked 1900-01-31"});
 
-    QWheelEvent down(calendar.rect().center(), calendar.mapToGlobal(calendar.rect().center()), {}, {0, -120},
-                     Qt::NoButton, {}, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&calendar, &down);
-    EXPECT_EQ(heard(), std::vector<std::string>{"page 1900-2"});
+    // A notch of the wheel turns a page; a touchpad's small steps add up to a notch.
+    for (const int delta : {-120, -60, -40, -20}) {
+        QWheelEvent down(calendar.rect().center(), calendar.mapToGlobal(calendar.rect().center()), {}, {0, delta},
+                         Qt::NoButton, {}, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&calendar, &down);
+    }
+    EXPECT_EQ(heard(), (std::vector<std::string>{"page 1900-2", "page 1900-3"}));
 
     calendar.setCurrentPage(kLastDiaryYear, 12);
     QTest::mouseClick(&calendar, Qt::LeftButton, {}, next);

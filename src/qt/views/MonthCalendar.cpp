@@ -16,6 +16,7 @@ namespace {
 constexpr int kTitlePadding = 8;
 constexpr int kHeaderPadding = 4;
 constexpr int kCellPadding = 6;
+constexpr int kWheelNotch = 120;
 
 QDate firstOfMonth(QDate date) {
     return {date.year(), date.month(), 1};
@@ -304,8 +305,10 @@ void MonthCalendar::keyPressEvent(QKeyEvent* event) {
 }
 
 void MonthCalendar::wheelEvent(QWheelEvent* event) {
-    const int delta = event->angleDelta().y();
-    if (delta != 0) turnPage(delta > 0 ? -1 : 1);
+    // A notch of a wheel turns one page; a touchpad's small steps add up to one.
+    wheelDelta_ += event->angleDelta().y();
+    for (; wheelDelta_ >= kWheelNotch; wheelDelta_ -= kWheelNotch) turnPage(-1);
+    for (; wheelDelta_ <= -kWheelNotch; wheelDelta_ += kWheelNotch) turnPage(1);
     event->accept();
 }
 

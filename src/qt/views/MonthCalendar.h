@@ -121,7 +121,8 @@ private:
     /// The initials of the week days, Monday first, and their widths.
     std::array<QString, 7> initials_;
     std::array<int, 7> initialWidth_{};
-    QDate pressed_;  ///< the day under the last press, until its release
+    QDate pressed_;       ///< the day under the last press, until its release
+    int wheelDelta_ = 0;  ///< wheel turns not yet a whole notch
 };
 
 }  // namespace orbidex
