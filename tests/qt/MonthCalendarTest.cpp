@@ -195,6 +195,7 @@ TEST_F(MonthCalendarTest, ChosenDaysAreOnTheHighlightAndOtherMonthsInGrey) {
     calendar.setCurrentPage(2004, 6);
     calendar.setCurrentDate(QDate(2004, 6, 16));
     calendar.setChosenRange(QDate(2004, 6, 14), QDate(2004, 6, 16));
+    EXPECT_EQ(calendar.accessibleName(), QStringLiteral("June 2004"));
     const QPalette& palette = calendar.palette();
     QImage image = drawn();
     const QRect chosen = calendar.dayRect(QDate(2004, 6, 15));

@@ -37,7 +37,7 @@ MonthCalendar::MonthCalendar(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     measure();
-    updateAccessibleName();
+    updateTitle();
 }
 
 void MonthCalendar::setDateRange(QDate first, QDate last) {
@@ -64,7 +64,7 @@ void MonthCalendar::setCurrentPage(int year, int month) {
     const QDate page = std::clamp(QDate(year, month, 1), firstOfMonth(first_), firstOfMonth(last_));
     if (page == page_) return;
     page_ = page;
-    updateAccessibleName();
+    updateTitle();
     update();
 }
 
@@ -199,7 +199,7 @@ bool MonthCalendar::canTurn(int months) const {
 void MonthCalendar::turnPage(int months) {
     if (!canTurn(months)) return;
     page_ = page_.addMonths(months);
-    updateAccessibleName();
+    updateTitle();
     update();
     emit currentPageChanged(page_.year(), page_.month());
 }
@@ -211,14 +211,15 @@ void MonthCalendar::moveCurrentTo(QDate date) {
     update();
     if (firstOfMonth(date) != page_) {
         page_ = firstOfMonth(date);
-        updateAccessibleName();
+        updateTitle();
         emit currentPageChanged(page_.year(), page_.month());
     }
     emit clicked(date);
 }
 
-void MonthCalendar::updateAccessibleName() {
-    setAccessibleName(QLocale().standaloneMonthName(page_.month()) + QLatin1Char(' ') + QString::number(page_.year()));
+void MonthCalendar::updateTitle() {
+    title_ = QLocale().standaloneMonthName(page_.month()) + QLatin1Char(' ') + QString::number(page_.year());
+    setAccessibleName(title_);
 }
 
 // Events ----------------------------------------------------------------------------
@@ -330,7 +331,7 @@ void MonthCalendar::paintTitle(QPainter& painter) {
     painter.fillRect(title, palette().color(QPalette::Highlight));
     painter.setPen(palette().color(QPalette::HighlightedText));
     painter.setFont(boldFont_);
-    painter.drawText(title, Qt::AlignCenter, accessibleName());
+    painter.drawText(title, Qt::AlignCenter, title_);
     paintChevron(painter, previousButton(), true, canTurn(-1));
     paintChevron(painter, nextButton(), false, canTurn(1));
 }

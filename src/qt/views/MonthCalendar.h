@@ -87,7 +87,8 @@ private:
     void turnPage(int months);
     /// Moves the current day by the keyboard: turns the page when it leaves the month.
     void moveCurrentTo(QDate date);
-    void updateAccessibleName();
+    /// The month and year, drawn in the title line and read out by accessibility tools.
+    void updateTitle();
 
     void paintTitle(QPainter& painter);
     void paintWeekDays(QPainter& painter);
@@ -102,6 +103,7 @@ private:
     QDate first_;
     QDate last_;
     QDate page_;  ///< the first day of the month shown
+    QString title_;
     QDate current_;
     QDate chosenStart_;
     QDate chosenEnd_;
