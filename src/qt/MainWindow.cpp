@@ -1,9 +1,8 @@
 #include "qt/MainWindow.h"
 
-#include <QCalendarWidget>
-
 #include "qt/ProgramIcons.h"
 #include "qt/views/ControlWidget.h"
+#include "qt/views/MonthCalendar.h"
 #include "screen/frmClientDiaryMain.h"
 
 namespace orbidex {
@@ -22,7 +21,7 @@ void MainWindow::showEvent(QShowEvent* event) {
     auto* form = static_cast<frmClientDiaryMain*>(this->form());
     if (form == nullptr || form->ActiveControl() != nullptr) return;
     if (ControlWidget* view = viewOf(form->MonthView1)) {
-        if (auto* calendar = view->findChild<QCalendarWidget*>()) calendar->setFocus(Qt::OtherFocusReason);
+        if (auto* calendar = view->findChild<MonthCalendar*>()) calendar->setFocus(Qt::OtherFocusReason);
     }
 }
 

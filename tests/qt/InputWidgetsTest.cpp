@@ -2,7 +2,6 @@
 // month calendar, tabs and labels: the model shows, and what the user does reaches it.
 #include <gtest/gtest.h>
 
-#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTimeEdit>
@@ -14,7 +13,6 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTabBar>
-#include <QTableView>
 #include <QTest>
 #include <QTextEdit>
 
@@ -39,6 +37,7 @@
 #include "qt/views/CommandButtonWidget.h"
 #include "qt/views/DatePickerWidget.h"
 #include "qt/views/LabelWidget.h"
+#include "qt/views/MonthCalendar.h"
 #include "qt/views/ListBoxWidget.h"
 #include "qt/views/MonthViewWidget.h"
 #include "qt/views/OptionButtonWidget.h"
@@ -52,15 +51,6 @@ namespace orbidex {
 namespace {
 
 using test::Shown;
-
-/// The centre of the cell of `day` of the shown month, in the table's viewport.
-QPoint dayCentre(QTableView& days, int day) {
-    for (int row = 1; row < days.model()->rowCount(); ++row)  // row 0 names the weekdays
-        for (int col = 0; col < days.model()->columnCount(); ++col)
-            if (days.model()->index(row, col).data().toInt() == day)
-                return days.visualRect(days.model()->index(row, col)).center();
-    return {};
-}
 
 TEST(TextBoxWidgetTest, TypingReachesTheModelAndTheModelsTextShows) {
     TextBox txt("txtTitle");
@@ -230,16 +220,16 @@ TEST(DateWidgetsTest, APickedDayKeepsTheTimeAndAClickedOrDroppedOnDayIsNamed) {
     month.Value = DateSerial(2004, 6, 5);
     auto calendar = Shown<MonthViewWidget>(month);
     ASSERT_EQ(calendar->calendars().size(), 1u);
-    EXPECT_EQ(calendar->calendars()[0]->selectedDate(), QDate(2004, 6, 5));
+    MonthCalendar& days = *calendar->calendars()[0];
+    EXPECT_EQ(days.currentDate(), QDate(2004, 6, 5));
     VbDate clicked = 0;
     month.onDateClick = [&](VbDate day) { clicked = day; };
-    auto* table = calendar->calendars()[0]->findChild<QTableView*>();
-    ASSERT_NE(table, nullptr);
-    const QPoint sixteenth = dayCentre(*table, 16);
-    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, sixteenth);
+    const QPoint sixteenth = days.dayRect(QDate(2004, 6, 16)).center();
+    QTest::mouseClick(&days, Qt::LeftButton, {}, sixteenth);
     EXPECT_EQ(clicked, DateSerial(2004, 6, 16));
     EXPECT_EQ(month.Value, DateSerial(2004, 6, 16));
-    EXPECT_EQ(calendar->dateAt(table->viewport()->mapTo(calendar.get(), sixteenth)), QDate(2004, 6, 16));
+    EXPECT_EQ(days.currentDate(), QDate(2004, 6, 16));
+    EXPECT_EQ(calendar->dateAt(days.mapTo(calendar.get(), sixteenth)), QDate(2004, 6, 16));
 
     // A control dragged onto a day names the day.
     Label grid("gridDays");
@@ -249,13 +239,14 @@ TEST(DateWidgetsTest, APickedDayKeepsTheTimeAndAClickedOrDroppedOnDayIsNamed) {
         over = source.Name() + " " + FormatDate(day, "mmm-dd-yyyy");
     };
     month.onDateDragDrop = [&](Control&, VbDate day) { dropped = day; };
-    EXPECT_TRUE(test::DropControl(grid, *table->viewport(), dayCentre(*table, 20)));
+    EXPECT_TRUE(test::DropControl(grid, days, days.dayRect(QDate(2004, 6, 20)).center()));
     EXPECT_EQ(over, "gridDays Jun-20-2004");
     EXPECT_EQ(dropped, DateSerial(2004, 6, 20));
 
     month.MonthColumns = 2;
     ASSERT_EQ(calendar->calendars().size(), 2u);
     EXPECT_EQ(calendar->calendars()[1]->monthShown(), 7);
+    EXPECT_EQ(calendar->calendars()[1]->yearShown(), 2004);
 }
 
 TEST(ScrollBarWidgetTest, TheUsersMovesReachTheModelWithinItsRange) {

@@ -3,11 +3,9 @@
 // widgets' own drop events, read back from the files on disk.
 #include <gtest/gtest.h>
 
-#include <QCalendarWidget>
 #include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QMimeData>
-#include <QTableView>
 #include <QTest>
 #include <QTreeView>
 #include <QUrl>
@@ -22,6 +20,7 @@
 #include "foundation/VbString.h"
 #include "qt/views/FlexGridWidget.h"
 #include "qt/views/ListViewWidget.h"
+#include "qt/views/MonthCalendar.h"
 #include "qt/views/MonthViewWidget.h"
 #include "screen/frmClientDiaryMain.h"
 
@@ -59,19 +58,9 @@ protected:
     FlexGridWidget& grid() { return *ViewOf<FlexGridWidget>(*main_, MainForm().gridDays); }
     QTreeView& list() { return *ViewOf<ListViewWidget>(*main_, MainForm().lvCat)->treeView(); }
     QPoint cell(long row, long col) { return grid().cellRect(row, col).center(); }
-    QTableView& calendar() {
-        return *ViewOf<MonthViewWidget>(*main_, MainForm().MonthView1)->calendars()[0]->findChild<QTableView*>();
-    }
-    /// Where the calendar shows `day` of its month (the last of the days of that number).
-    QPoint day(int number) {
-        QPoint at;
-        QAbstractItemModel& days = *calendar().model();
-        for (int row = 1; row < days.rowCount(); ++row)  // row 0 names the weekdays
-            for (int col = 0; col < days.columnCount(); ++col)
-                if (days.index(row, col).data().toInt() == number)
-                    at = calendar().visualRect(days.index(row, col)).center();
-        return at;
-    }
+    MonthCalendar& calendar() { return *ViewOf<MonthViewWidget>(*main_, MainForm().MonthView1)->calendars()[0]; }
+    /// Where the calendar shows `day` of June 2004.
+    QPoint day(int number) { return calendar().dayRect(QDate(2004, 6, number)).center(); }
     /// Drags the program's control `source` over `target` at `at`, without dropping it.
     static void dragOver(Control& source, QWidget& target, QPoint at) {
         const ControlWidget::DragScope dragging(source);
@@ -83,7 +72,7 @@ protected:
     /// The week of 28 June to 4 July in the grid, as the user chooses it.
     void showTheLastWeekOfJune() {
         MenuEntry(QStringLiteral("Weekly View"))->trigger();
-        QTest::mouseClick(calendar().viewport(), Qt::LeftButton, {}, day(30));
+        QTest::mouseClick(&calendar(), Qt::LeftButton, {}, day(30));
         test::ProcessEvents();
         ASSERT_EQ(MainForm().gridDays.ColData(2), DateSerial(2004, 6, 28));
     }
@@ -106,9 +95,9 @@ TEST_F(DragDropWindowTest, AnEventDraggedAcrossTheMonthEndLandsInBothFiles) {
 
     // Dragged onto a day of the calendar, it keeps its time.
     QTest::mousePress(grid().viewport(), Qt::LeftButton, {}, cell(11, 6));
-    dragOver(MainForm().gridDays, *calendar().viewport(), day(15));
+    dragOver(MainForm().gridDays, calendar(), day(15));
     EXPECT_EQ(MainForm().status.Panels(1).Text(), "Release mouse button to move event to Jun-15-2004");
-    ASSERT_TRUE(test::DropControl(MainForm().gridDays, *calendar().viewport(), day(15)));
+    ASSERT_TRUE(test::DropControl(MainForm().gridDays, calendar(), day(15)));
     EXPECT_EQ(file("D200406.dat"), "\r\n" + line({"D200406150001", "20040615", "Office", "1400", "30", "Call", "", "",
                                                   "", "20040615", "1400", "Normal", "", "", "Ring the bank"}));
     EXPECT_EQ(file("D200407.dat"), "\r\n" + kJuly);

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QCalendarWidget>
 #include <QImage>
 #include <QLabel>
 #include <QMenuBar>
@@ -23,6 +22,7 @@
 #include "qt/QtFormRegistry.h"
 #include "qt/QtPlatform.h"
 #include "qt/QtText.h"
+#include "qt/views/MonthCalendar.h"
 #include "qt/views/StatusBarWidget.h"
 #include "qt/views/ToolbarWidget.h"
 #include "screen/frmClientDiaryMain.h"
@@ -114,7 +114,7 @@ TEST_F(MainWindowTest, TheUserBrowsesTheDiaryByDayWeekFortnightAndMonth) {
     // The month calendar has the keyboard when the window opens.
     bool calendarHasFocus = false;
     for (QWidget* w = QApplication::focusWidget(); w != nullptr; w = w->parentWidget())
-        calendarHasFocus = calendarHasFocus || qobject_cast<QCalendarWidget*>(w) != nullptr;
+        calendarHasFocus = calendarHasFocus || qobject_cast<MonthCalendar*>(w) != nullptr;
     EXPECT_TRUE(calendarHasFocus);
     EXPECT_EQ(heading(), "  Events for Saturday, 5-Jun-2004");
     EXPECT_EQ(panel(1), "Viewing 5-Jun-04 ");

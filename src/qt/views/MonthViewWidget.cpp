@@ -1,21 +1,23 @@
 #include "qt/views/MonthViewWidget.h"
 
-#include <QCalendarWidget>
 #include <QGridLayout>
-#include <QTableView>
-#include <QTextCharFormat>
 
 #include "controls/MonthView.h"
 #include "foundation/DateHelpers.h"
 #include "foundation/VbDate.h"
-#include "qt/views/ViewSupport.h"
+#include "platform/Platform.h"
+#include "qt/views/MonthCalendar.h"
 
 namespace orbidex {
 
 namespace {
 
-QDate toQDate(VbDate value) { return {Year(value), Month(value), Day(value)}; }
-VbDate fromQDate(QDate date) { return DateSerial(date.year(), date.month(), date.day()); }
+QDate toQDate(VbDate value) {
+    return {Year(value), Month(value), Day(value)};
+}
+VbDate fromQDate(QDate date) {
+    return DateSerial(date.year(), date.month(), date.day());
+}
 
 }  // namespace
 
@@ -28,25 +30,23 @@ MonthViewWidget::MonthViewWidget(MonthView& control, QWidget* parent)
 }
 
 void MonthViewWidget::build(long rows, long columns) {
-    for (QCalendarWidget* calendar : calendars_) delete calendar;
+    for (MonthCalendar* calendar : calendars_) delete calendar;
     calendars_.clear();
     rows_ = rows;
     columns_ = columns;
     for (long r = 0; r < rows; ++r)
         for (long c = 0; c < columns; ++c) {
-            auto* calendar = new QCalendarWidget;
-            calendar->setGridVisible(false);
-            calendar->setDateEditEnabled(false);
+            auto* calendar = new MonthCalendar;
             calendar->setDateRange(QDate(kFirstDiaryYear, 1, 1), QDate(kLastDiaryYear, 12, 31));
-            if (auto* table = calendar->findChild<QTableView*>()) takeDropsOn(table->viewport());
+            takeDropsOn(calendar);
             const auto index = calendars_.size();
-            connect(calendar, &QCalendarWidget::clicked, this, [this](QDate date) {
+            connect(calendar, &MonthCalendar::clicked, this, [this](QDate date) {
                 if (!syncing() && model() != nullptr) month_.UserClickDate(fromQDate(date));
             });
-            connect(calendar, &QCalendarWidget::activated, this, [this](QDate date) {
+            connect(calendar, &MonthCalendar::activated, this, [this](QDate date) {
                 if (!syncing() && model() != nullptr) month_.UserDblClickDate(fromQDate(date));
             });
-            connect(calendar, &QCalendarWidget::currentPageChanged, this, [this, index](int year, int month) {
+            connect(calendar, &MonthCalendar::currentPageChanged, this, [this, index](int year, int month) {
                 if (syncing()) return;
                 // The user turned one calendar's page: the others follow it.
                 firstShown_ = QDate(year, month, 1).addMonths(-static_cast<int>(index));
@@ -55,14 +55,26 @@ void MonthViewWidget::build(long rows, long columns) {
             layout_->addWidget(calendar, static_cast<int>(r), static_cast<int>(c));
             calendars_.push_back(calendar);
         }
+    // The view's keyboard is the first calendar's.
+    panel_->setFocusProxy(calendars_.front());
 }
 
 void MonthViewWidget::showMonthsFrom(int year, int month) {
     for (size_t i = 0; i < calendars_.size(); ++i) {
         const QDate first = QDate(year, month, 1).addMonths(static_cast<int>(i));
-        const QSignalBlocker block(calendars_[i]);
         calendars_[i]->setCurrentPage(first.year(), first.month());
+        if (model() != nullptr) markBoldDays(*calendars_[i]);
     }
+}
+
+void MonthViewWidget::markBoldDays(MonthCalendar& calendar) const {
+    std::vector<QDate> bold;
+    const QDate first = calendar.dateOfCell(0, 0);
+    for (int i = 0; i < MonthCalendar::kRows * MonthCalendar::kDaysInWeek; ++i) {
+        const QDate day = first.addDays(i);
+        if (month_.DayBold(fromQDate(day))) bold.push_back(day);
+    }
+    calendar.setBoldDays(std::move(bold));
 }
 
 void MonthViewWidget::syncFromModel() {
@@ -71,27 +83,15 @@ void MonthViewWidget::syncFromModel() {
     if (rows != rows_ || columns != columns_) build(rows, columns);
 
     const QDate value = toQDate(month_.Value);
-    const QDate start = toQDate(month_.SelStart);
-    const QDate end = toQDate(month_.SelEnd);
-    QTextCharFormat chosen;
-    chosen.setBackground(ToQColor(vbHighlight));
-    chosen.setForeground(ToQColor(vbHighlightText));
-    for (QCalendarWidget* calendar : calendars_) {
+    // Today comes from the program's clock; a view shown without the program frames no day.
+    const QDate today = month_.ShowToday && PlatformInstalled() ? toQDate(Today()) : QDate();
+    for (MonthCalendar* calendar : calendars_) {
         // 1 is Sunday for the model, 7 for Qt.
         calendar->setFirstDayOfWeek(static_cast<Qt::DayOfWeek>((month_.StartOfWeek + 5) % 7 + 1));
-        calendar->setVerticalHeaderFormat(month_.ShowWeekNumbers ? QCalendarWidget::ISOWeekNumbers
-                                                                 : QCalendarWidget::NoVerticalHeader);
-        calendar->setDateTextFormat(QDate(), QTextCharFormat());  // clears the marks
-        for (QDate day = start; day.isValid() && day <= end; day = day.addDays(1)) calendar->setDateTextFormat(day, chosen);
-        const QDate shownFirst = QDate(calendar->yearShown(), calendar->monthShown(), 1).addDays(-7);
-        for (QDate day = shownFirst; day <= shownFirst.addDays(49); day = day.addDays(1))
-            if (month_.DayBold(fromQDate(day))) {
-                QTextCharFormat bold = calendar->dateTextFormat(day);
-                bold.setFontWeight(QFont::Bold);
-                calendar->setDateTextFormat(day, bold);
-            }
-        const QSignalBlocker block(calendar);
-        calendar->setSelectedDate(value);
+        calendar->setWeekNumbersShown(month_.ShowWeekNumbers);
+        calendar->setChosenRange(toQDate(month_.SelStart), toQDate(month_.SelEnd));
+        calendar->setCurrentDate(value);
+        calendar->setToday(today);
         applyFont(calendar);
     }
     // The first calendar shows the month asked for, else the month of the value unless
@@ -106,21 +106,9 @@ void MonthViewWidget::syncFromModel() {
 }
 
 QDate MonthViewWidget::dateAt(QPoint pos) const {
-    for (QCalendarWidget* calendar : calendars_) {
-        auto* table = calendar->findChild<QTableView*>();
-        if (table == nullptr) continue;
-        const QPoint local = table->viewport()->mapFrom(this, pos);
-        if (!table->viewport()->rect().contains(local)) continue;
-        const QModelIndex index = table->indexAt(local);
-        if (!index.isValid()) return {};
-        bool isDay = false;
-        const int day = index.data(Qt::DisplayRole).toInt(&isDay);
-        if (!isDay) return {};
-        // Days of the month before stand in the first rows, of the month after in the last.
-        QDate page(calendar->yearShown(), calendar->monthShown(), 1);
-        if (index.row() <= 2 && day > 20) page = page.addMonths(-1);
-        if (index.row() >= 4 && day < 15) page = page.addMonths(1);
-        return {page.year(), page.month(), day};
+    for (MonthCalendar* calendar : calendars_) {
+        const QPoint local = calendar->mapFrom(this, pos);
+        if (calendar->rect().contains(local)) return calendar->dateAt(local);
     }
     return {};
 }

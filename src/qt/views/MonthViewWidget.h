@@ -8,18 +8,18 @@
 
 #include "qt/views/ControlWidget.h"
 
-class QCalendarWidget;
 class QGridLayout;
 
 namespace orbidex {
 
+class MonthCalendar;
 class MonthView;
 
 class MonthViewWidget : public ControlWidget {
     Q_OBJECT
 public:
     MonthViewWidget(MonthView& model, QWidget* parent = nullptr);
-    const std::vector<QCalendarWidget*>& calendars() const { return calendars_; }
+    const std::vector<MonthCalendar*>& calendars() const { return calendars_; }
     /// The day drawn at `pos` (in this widget), or a null date.
     QDate dateAt(QPoint pos) const;
 
@@ -31,11 +31,13 @@ protected:
 private:
     void build(long rows, long columns);
     void showMonthsFrom(int year, int month);
+    /// Marks in `calendar` the bold days among those it shows.
+    void markBoldDays(MonthCalendar& calendar) const;
 
     MonthView& month_;
     QWidget* panel_;
     QGridLayout* layout_;
-    std::vector<QCalendarWidget*> calendars_;
+    std::vector<MonthCalendar*> calendars_;
     long rows_ = 0;
     long columns_ = 0;
     QDate firstShown_;  ///< the first day of the month the first calendar shows
