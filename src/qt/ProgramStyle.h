@@ -10,8 +10,8 @@ namespace orbidex {
 
 class ProgramStyle : public QProxyStyle {
 public:
-    /// Over `base` (owned by the new style); the application's style when null.
-    explicit ProgramStyle(QStyle* base = nullptr);
+    /// Over `base`, which the new style owns.
+    explicit ProgramStyle(QStyle* base);
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option = nullptr,
                        const QWidget* widget = nullptr) const override;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "ViewTestSupport.h"
 #include "qt/ProgramDrawings.h"
 
 namespace orbidex {
@@ -27,13 +28,6 @@ int largestDifference(const QImage& a, const QImage& b) {
     return largest;
 }
 
-int visiblePixels(const QImage& picture) {
-    int count = 0;
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = 0; x < picture.width(); ++x) count += qAlpha(picture.pixel(x, y)) > 0 ? 1 : 0;
-    return count;
-}
-
 TEST(ProgramDrawingsTest, EachBakedPictureIsItsDrawingRenderedAtThatSize) {
     ASSERT_FALSE(BakedPictures().empty());
     for (const BakedPicture& baked : BakedPictures()) {
@@ -42,7 +36,7 @@ TEST(ProgramDrawingsTest, EachBakedPictureIsItsDrawingRenderedAtThatSize) {
         SCOPED_TRACE(qPrintable(QStringLiteral("%1 at %2").arg(name).arg(baked.size)));
         const QImage picture = BakedDrawing(name, size);
         ASSERT_EQ(picture.size(), size);
-        EXPECT_GT(visiblePixels(picture), baked.size) << "the picture shows the drawing";
+        EXPECT_GT(test::VisiblePixels(picture), baked.size) << "the picture shows the drawing";
         EXPECT_LE(largestDifference(picture, RenderedDrawing(name, size)), 1);
     }
 
@@ -69,7 +63,7 @@ TEST(ProgramDrawingsTest, TheIconIsTheDrawingAtEverySizeBakedOrNot) {
             SCOPED_TRACE(qPrintable(QStringLiteral("%1 at %2").arg(name).arg(c.size)));
             EXPECT_EQ(BakedDrawing(name, size).isNull(), !c.baked);
             const QImage shown = icon.pixmap(size).toImage();
-            EXPECT_GT(visiblePixels(shown), c.size);
+            EXPECT_GT(test::VisiblePixels(shown), c.size);
             EXPECT_LE(largestDifference(shown, RenderedDrawing(name, size)), 1);
         }
     }

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
-#include <QApplication>
 #include <QMainWindow>
 #include <QStyleFactory>
 #include <QToolBar>
@@ -14,13 +13,6 @@
 namespace orbidex {
 namespace {
 
-int visiblePixels(const QImage& picture) {
-    int count = 0;
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = 0; x < picture.width(); ++x) count += qAlpha(picture.pixel(x, y)) > 0 ? 1 : 0;
-    return count;
-}
-
 QImage pictureOf(const QIcon& icon) {
     return icon.pixmap(16, 16).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
@@ -31,22 +23,19 @@ TEST(ProgramStyleTest, TheBarsMoreButtonsAreDrawnAndEverythingElseIsTheStylesOwn
 
     const QImage across = pictureOf(style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton));
     const QImage down = pictureOf(style.standardIcon(QStyle::SP_ToolBarVerticalExtensionButton));
-    EXPECT_GT(visiblePixels(across), 10);
-    EXPECT_GT(visiblePixels(down), 10);
+    EXPECT_GT(test::VisiblePixels(across), 10);
+    EXPECT_GT(test::VisiblePixels(down), 10);
     EXPECT_NE(across, down) << "the chevrons point along the bar";
-    EXPECT_GT(visiblePixels(style.standardPixmap(QStyle::SP_ToolBarHorizontalExtensionButton).toImage()), 10);
+    EXPECT_NE(across, pictureOf(fusion->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton)));
+    EXPECT_GT(test::VisiblePixels(style.standardPixmap(QStyle::SP_ToolBarHorizontalExtensionButton).toImage()), 10);
 
     for (const QStyle::StandardPixmap other : {QStyle::SP_DialogOkButton, QStyle::SP_ArrowLeft,
                                                QStyle::SP_MessageBoxWarning, QStyle::SP_TitleBarCloseButton}) {
         SCOPED_TRACE(int(other));
         const QImage own = pictureOf(fusion->standardIcon(other));
         EXPECT_EQ(pictureOf(style.standardIcon(other)), own);
-        EXPECT_GT(visiblePixels(own), 0);
+        EXPECT_GT(test::VisiblePixels(own), 0);
     }
-    EXPECT_EQ(style.standardPalette(), fusion->standardPalette());
-    for (const QStyle::PixelMetric metric : {QStyle::PM_ToolBarIconSize, QStyle::PM_ToolBarExtensionExtent,
-                                             QStyle::PM_MenuBarItemSpacing, QStyle::PM_SmallIconSize})
-        EXPECT_EQ(style.pixelMetric(metric), fusion->pixelMetric(metric)) << int(metric);
 }
 
 // The tests run under the program's style, as the program does.
@@ -60,8 +49,8 @@ TEST(ProgramStyleTest, ATooShortToolBarShowsTheDrawnMoreButton) {
     auto* more = bar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
     ASSERT_NE(more, nullptr);
     EXPECT_TRUE(more->isVisible());
-    EXPECT_EQ(pictureOf(more->icon()),
-              pictureOf(QApplication::style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton)));
+    const ProgramStyle style(QStyleFactory::create(QStringLiteral("Fusion")));
+    EXPECT_EQ(pictureOf(more->icon()), pictureOf(style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton)));
     test::SaveScreenshot(window, QStringLiteral("toolbar-more-button"));
 }
 
