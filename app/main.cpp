@@ -2,6 +2,7 @@
 #include <QApplication>
 
 #include "foundation/modMain.h"
+#include "qt/ProgramStyle.h"
 #include "qt/QtFormRegistry.h"
 #include "qt/QtPlatform.h"
 #include "qt/TerminationSignals.h"
@@ -13,6 +14,7 @@
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Orbidex"));
+    orbidex::UseProgramStyle();
     orbidex::QtFormRegistry forms;
     orbidex::RegisterProgramWindows(forms);
     orbidex::QtPlatform platform(forms);

@@ -4,21 +4,14 @@
 #include <QActionEvent>
 #include <QFile>
 #include <QHash>
-#include <QImageReader>
-#include <QPainter>
 #include <QPointer>
 #include <QStyledItemDelegate>
 #include <QToolBar>
 #include <QTreeWidget>
 
-#include "qt/views/DrawnIcon.h"
+#include "qt/ProgramDrawings.h"
 #include "qt/views/ListViewWidget.h"
 #include "qt/views/ViewSupport.h"
-
-// The bundled drawings live in a static library: their resource is registered by hand.
-static void registerIconResource() {
-    Q_INIT_RESOURCE(icons);
-}
 
 namespace orbidex {
 
@@ -62,21 +55,6 @@ constexpr ThemeName kThemeNames[] = {
     {"tessaline", "preferences-system"},
     {"autobackup", "document-save"},
 };
-
-QString bundledFile(const QString& name) {
-    return QStringLiteral(":/icons/%1.svg").arg(name);
-}
-
-// The program's drawing, read when a view first paints it at the size it paints.
-QIcon bundledIcon(const QString& file) {
-    return DrawnIcon([file](QPixmap& canvas) {
-        QImageReader reader(file);
-        reader.setScaledSize(canvas.size());
-        const QImage drawing = reader.read();
-        QPainter painter(&canvas);
-        painter.drawImage(0, 0, drawing);
-    });
-}
 
 // The tiles the views draw for the program's names, by the key of their icon.
 const QHash<qint64, QString>& tileNames() {
@@ -172,12 +150,10 @@ void useInTree(QTreeWidget* tree) {
 
 QIcon ProgramIcon(const std::string& name) {
     static QHash<QString, QIcon> cache;
-    static const bool registered = (registerIconResource(), true);
-    (void)registered;
     const QString key = QString::fromStdString(name).toLower();
     if (const auto it = cache.constFind(key); it != cache.constEnd()) return *it;
     QIcon icon = IconNamed(name);
-    if (QFile::exists(bundledFile(key))) icon = bundledIcon(bundledFile(key));
+    if (QFile::exists(DrawingFile(key))) icon = ProgramDrawing(key);
     for (const ThemeName& entry : kThemeNames)
         if (key == QLatin1String(entry.image)) icon = QIcon::fromTheme(QLatin1String(entry.theme), icon);
     cache.insert(key, icon);

@@ -3,6 +3,8 @@
 
 #include <QApplication>
 
+#include "qt/ProgramStyle.h"
+
 namespace {
 
 class QtApplicationEnvironment : public ::testing::Environment {
@@ -15,6 +17,7 @@ public:
         qputenv("QT_QPA_PLATFORM", "offscreen");
         app_ = new QApplication(argc, argv);
         QApplication::setStyle(QStringLiteral("Fusion"));
+        orbidex::UseProgramStyle();
     }
     void TearDown() override {
         delete app_;

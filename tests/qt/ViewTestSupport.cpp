@@ -42,6 +42,13 @@ QColor ColorAt(QWidget& widget, QPoint pos) {
     return widget.grab().toImage().pixelColor(pos);
 }
 
+int VisiblePixels(const QImage& picture) {
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x) count += qAlpha(picture.pixel(x, y)) > 0 ? 1 : 0;
+    return count;
+}
+
 void ProcessEvents() {
     for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
 }

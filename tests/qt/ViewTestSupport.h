@@ -3,6 +3,7 @@
 // and drops.
 
 #include <QColor>
+#include <QImage>
 #include <QMimeData>
 #include <QPoint>
 #include <QSize>
@@ -38,6 +39,8 @@ QString SaveScreenshot(QWidget& widget, const QString& name);
 void SaveScreenshotOver(QWidget& main, QWidget& dialog, const QString& name);
 /// The colour `widget` draws at `pos`.
 QColor ColorAt(QWidget& widget, QPoint pos);
+/// How many pixels of `picture` are not wholly transparent.
+int VisiblePixels(const QImage& picture);
 
 /// Drags `mime` onto `target` at `at` and drops it there if the target takes it;
 /// tells whether it took it.
