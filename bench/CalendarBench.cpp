@@ -6,8 +6,7 @@
 #include <map>
 #include <string>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "BenchProgram.h"
 #include "config/clsConfigDiary.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/FileSystem.h"
@@ -23,27 +22,14 @@ constexpr int kEventsInMonth = 2000;
 
 // A program with its settings from a first run, the clock at 2004-06-05 09:30:12,
 // and June 2004 holding 2,000 events spread over its days and hours.
-class CalendarProgram {
+class CalendarProgram : public orbidex::bench::BenchProgram {
 public:
-    CalendarProgram() {
-        platform_.SetProgramFolder(folder_.Stored());
-        orbidex::SetPlatform(&platform_);
-        orbidex::ResetProgramState();
-        orbidex::gStrDataPath = folder_.Stored() + "\\data\\";
-        orbidex::MakeFolder(orbidex::gStrDataPath);
-        orbidex::gStrIniFile = orbidex::gStrDataPath + "orbidex.ini";
-        orbidex::glbLog.init(orbidex::gStrDataPath + "OX_LOG.log", "", "", true, 0);
+    CalendarProgram() : BenchProgram("data") {
         orbidex::glbConfig.fname = orbidex::gStrIniFile;
         orbidex::glbConfig.ReadAllSettings();
         writeBusyJune();
         orbidex::glbEvents.LoadDiaryData(june(7));
     }
-    ~CalendarProgram() {
-        orbidex::ResetProgramState();
-        orbidex::SetPlatform(nullptr);
-    }
-    CalendarProgram(const CalendarProgram&) = delete;
-    CalendarProgram& operator=(const CalendarProgram&) = delete;
 
     static orbidex::VbDate june(int day) { return orbidex::DateSerial(2004, 6, day); }
 
@@ -80,8 +66,6 @@ private:
         orbidex::WriteWholeFile(orbidex::gStrDataPath + "D200406.dat", bytes);
     }
 
-    orbidex::test::ScriptedPlatform platform_;
-    orbidex::test::TempFolder folder_;
     std::map<int, int> eventsOn_;  ///< by day + 100 * month
 };
 

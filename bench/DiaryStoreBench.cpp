@@ -6,8 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "BenchProgram.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -20,23 +19,9 @@ constexpr int kEventsInMonth = 2000;
 constexpr int kYearsOfFiles = 20;
 
 // A program with its data folder, the clock at 2004-06-05 09:30:12 and the log open.
-class BenchProgram {
+class StoreProgram : public orbidex::bench::BenchProgram {
 public:
-    BenchProgram() {
-        platform_.SetProgramFolder(folder_.Stored());
-        platform_.SetRandomValues({0.13, 0.71, 0.42, 0.98, 0.05, 0.66, 0.27, 0.84});
-        orbidex::SetPlatform(&platform_);
-        orbidex::ResetProgramState();
-        orbidex::gStrDataPath = folder_.Stored() + "\\";
-        orbidex::gStrIniFile = orbidex::gStrDataPath + "orbidex.ini";
-        orbidex::glbLog.init(orbidex::gStrDataPath + "OX_LOG.log", "", "", true, 0);
-    }
-    ~BenchProgram() {
-        orbidex::ResetProgramState();
-        orbidex::SetPlatform(nullptr);
-    }
-    BenchProgram(const BenchProgram&) = delete;
-    BenchProgram& operator=(const BenchProgram&) = delete;
+    StoreProgram() { platform_.SetRandomValues({0.13, 0.71, 0.42, 0.98, 0.05, 0.66, 0.27, 0.84}); }
 
     std::string Data(const std::string& name) const { return orbidex::gStrDataPath + name; }
 
@@ -62,8 +47,6 @@ public:
     }
 
 private:
-    orbidex::test::ScriptedPlatform platform_;
-    orbidex::test::TempFolder folder_;
 };
 
 benchmark::Counter perUnit(double units) {
@@ -75,14 +58,14 @@ orbidex::VbDate june5() {
 }
 
 void BM_LoadDiaryData(benchmark::State& state) {
-    BenchProgram program;
+    StoreProgram program;
     program.WriteBusyJune();
     for (auto _ : state) orbidex::glbEvents.LoadDiaryData(june5());
     state.counters["time_per_event"] = perUnit(kEventsInMonth);
 }
 
 void BM_SaveDiaryArray(benchmark::State& state) {
-    BenchProgram program;
+    StoreProgram program;
     program.WriteBusyJune();
     orbidex::glbEvents.LoadDiaryData(june5());
     for (auto _ : state) orbidex::glbEvents.SaveDiaryArray(orbidex::kFieldDelimiter, nullptr);
@@ -90,7 +73,7 @@ void BM_SaveDiaryArray(benchmark::State& state) {
 }
 
 void BM_getUniqueID(benchmark::State& state) {
-    BenchProgram program;
+    StoreProgram program;
     const std::string file = program.WriteBusyJune();
     for (auto _ : state)
         benchmark::DoNotOptimize(orbidex::glbEvents.getUniqueID(file, june5(), orbidex::kFieldDelimiter));
@@ -99,7 +82,7 @@ void BM_getUniqueID(benchmark::State& state) {
 
 // The list of every file of the folder, and the list of a range of months.
 void BM_CreateDiaryDataFileList(benchmark::State& state) {
-    BenchProgram program;
+    StoreProgram program;
     const orbidex::VbDate first = orbidex::DateSerial(1985, 1, 1);
     const orbidex::VbDate last = orbidex::DateSerial(1985 + kYearsOfFiles - 1, 12, 1);
     for (orbidex::VbDate month = first; month <= last; month = orbidex::DateAdd("m", 1, month))

@@ -7,8 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "BenchProgram.h"
 #include "diary/cDiaryFileUtils.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/FileSystem.h"
@@ -24,14 +23,9 @@ constexpr int kRows = 10000;
 constexpr int kDaysInFiveYears = 1826;
 
 // A program with its data folder and a comma file of 10,000 events from 2001 to 2005.
-class ImportProgram {
+class ImportProgram : public orbidex::bench::BenchProgram {
 public:
     ImportProgram() {
-        platform_.SetProgramFolder(folder_.Stored());
-        orbidex::SetPlatform(&platform_);
-        orbidex::ResetProgramState();
-        orbidex::gStrDataPath = folder_.Stored() + "\\";
-        orbidex::glbLog.init(orbidex::gStrDataPath + "OX_LOG.log", "", "", true, 0);
         orbidex::MainForm().MonthView1.Value = orbidex::DateSerial(2004, 6, 5);
         std::string csv = "Date,Title,Location\r\n";
         for (int row = 0; row < kRows; ++row) {
@@ -42,12 +36,6 @@ public:
         csvFile_ = folder_.Stored() + "\\years.csv";
         orbidex::WriteWholeFile(csvFile_, csv);
     }
-    ~ImportProgram() {
-        orbidex::ResetProgramState();
-        orbidex::SetPlatform(nullptr);
-    }
-    ImportProgram(const ImportProgram&) = delete;
-    ImportProgram& operator=(const ImportProgram&) = delete;
 
     const std::string& CsvFile() const { return csvFile_; }
     std::vector<std::string> MonthFiles() const {
@@ -61,8 +49,6 @@ public:
     }
 
 private:
-    orbidex::test::ScriptedPlatform platform_;
-    orbidex::test::TempFolder folder_;
     std::string csvFile_;
 };
 

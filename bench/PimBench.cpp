@@ -7,8 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "BenchProgram.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbString.h"
@@ -22,26 +21,16 @@ constexpr int kNotes = 2000;
 
 // A program with its data folder holding 5,000 tasks and 2,000 notes, the clock at
 // 2004-06-05 09:30:12, nothing logged.
-class PimProgram {
+class PimProgram : public orbidex::bench::BenchProgram {
 public:
     PimProgram() {
-        platform_.SetProgramFolder(folder_.Stored());
         platform_.SetRandomValues({0.13, 0.71, 0.42, 0.98, 0.05, 0.66, 0.27, 0.84});
-        orbidex::SetPlatform(&platform_);
-        orbidex::ResetProgramState();
         orbidex::gLogLevel = -2;
-        orbidex::gStrDataPath = folder_.Stored() + "\\";
         writeTasks();
         writeNotes();
         orbidex::glbTasks.init(TasksFile());
         orbidex::glbNotes.init(NotesFile());
     }
-    ~PimProgram() {
-        orbidex::ResetProgramState();
-        orbidex::SetPlatform(nullptr);
-    }
-    PimProgram(const PimProgram&) = delete;
-    PimProgram& operator=(const PimProgram&) = delete;
 
     static std::string TasksFile() { return orbidex::gStrDataPath + "D_tasks.dat"; }
     static std::string NotesFile() { return orbidex::gStrDataPath + "allnotes.dat"; }
@@ -77,9 +66,6 @@ private:
         }
         orbidex::WriteWholeFile(NotesFile(), orbidex::Replace(bytes, "|", orbidex::kFieldDelimiter));
     }
-
-    orbidex::test::ScriptedPlatform platform_;
-    orbidex::test::TempFolder folder_;
 };
 
 benchmark::Counter perUnit(double units) {

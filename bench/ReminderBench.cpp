@@ -7,8 +7,7 @@
 #include <cstdio>
 #include <string>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "BenchProgram.h"
 #include "config/clsConfigDiary.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -24,17 +23,11 @@ constexpr int kTasks = 500;
 // June 2004 with its events spread over the days and hours, each with a reminder a
 // quarter of an hour before it; tasks for every day of the month, each reminded
 // of.  The clock stands on 2004-06-05, the log at its usual level.
-class ReminderProgram {
+class ReminderProgram : public orbidex::bench::BenchProgram {
 public:
     ReminderProgram() {
-        platform_.SetProgramFolder(folder_.Stored());
         platform_.AllowUnscriptedForms(true);
-        orbidex::SetPlatform(&platform_);
-        orbidex::ResetProgramState();
-        orbidex::gStrDataPath = folder_.Stored() + "\\";
-        orbidex::gStrIniFile = orbidex::gStrDataPath + "orbidex.ini";
         orbidex::glbConfig.fname = orbidex::gStrIniFile;
-        orbidex::glbLog.init(orbidex::gStrDataPath + "OX_LOG.log", "", "", true, 0);
         orbidex::gLogLevel = 3;
         orbidex::WriteWholeFile(orbidex::gStrIniFile,
                                 "[diary]\r\nDateRemindersLastChecked=19990101\r\nTimeRemindersLastChecked=0000\r\n"
@@ -42,12 +35,6 @@ public:
         orbidex::WriteWholeFile(MonthFile(), month());
         orbidex::WriteWholeFile(orbidex::gStrDataPath + "D_tasks.dat", tasks());
     }
-    ~ReminderProgram() {
-        orbidex::ResetProgramState();
-        orbidex::SetPlatform(nullptr);
-    }
-    ReminderProgram(const ReminderProgram&) = delete;
-    ReminderProgram& operator=(const ReminderProgram&) = delete;
 
     std::string MonthFile() const { return orbidex::gStrDataPath + "D200406.dat"; }
     /// The clock at the `minute`th minute of 5 June, counted round the day.
@@ -85,9 +72,6 @@ private:
         }
         return bytes;
     }
-
-    orbidex::test::ScriptedPlatform platform_;
-    orbidex::test::TempFolder folder_;
 };
 
 // One full minute's scan as the timer runs it, the clock a minute on each time: the

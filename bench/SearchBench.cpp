@@ -12,9 +12,8 @@
 #include <string>
 #include <vector>
 
+#include "BenchProgram.h"
 #include "DiaryGenerator.h"
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -32,16 +31,10 @@ double millisecondsSince(Clock::time_point start) {
 }
 
 // The program over the generated diary, made once for the whole run.
-class SearchProgram {
+class SearchProgram : public orbidex::bench::BenchProgram {
 public:
     SearchProgram() {
-        platform_.SetProgramFolder(folder_.Stored());
         platform_.AllowUnscriptedForms(true);
-        orbidex::SetPlatform(&platform_);
-        orbidex::ResetProgramState();
-        orbidex::gStrDataPath = folder_.Stored() + "\\";
-        orbidex::gStrIniFile = orbidex::gStrDataPath + "orbidex.ini";
-        orbidex::glbLog.init(orbidex::gStrDataPath + "OX_LOG.log", "", "", true, 0);
         diary_ = orbidex::bench::GenerateDiary(orbidex::gStrDataPath, 2000, 20);
         for (const std::string& name : orbidex::ListFolder(orbidex::gStrDataPath + "D*.dat", false))
             nativeFiles_ += " '" + folder_.Native() + "/" + name + "'";
@@ -84,8 +77,6 @@ public:
     }
 
 private:
-    orbidex::test::ScriptedPlatform platform_;
-    orbidex::test::TempFolder folder_;
     orbidex::bench::GeneratedDiary diary_;
     std::string nativeFiles_;
     Clock::time_point searchStarted_;

@@ -7,8 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "BenchProgram.h"
 #include "TimeSlots.h"
 #include "config/clsConfigDiary.h"
 #include "controls/FlexGrid.h"
@@ -27,14 +26,9 @@ constexpr int kEventsADay = 7;
 
 // The results of one request: a section for each month of each user, events at
 // the office's hours, 30 days before 5 June 2004 to 120 after it.
-class StaffProgram {
+class StaffProgram : public orbidex::bench::BenchProgram {
 public:
     explicit StaffProgram(int users) {
-        platform_.SetProgramFolder(folder_.Stored());
-        orbidex::SetPlatform(&platform_);
-        orbidex::ResetProgramState();
-        orbidex::gStrDataPath = folder_.Stored() + "\\";
-        orbidex::glbLog.init(orbidex::gStrDataPath + "OX_LOG.log", "", "", true, 0);
         orbidex::test::UseTimeSlots(9, 18, 2);
         orbidex::glbConfig.ShowDetails = 1;
         orbidex::glbConfig.ShowLocation = 1;
@@ -60,12 +54,6 @@ public:
         orbidex::WriteWholeFile(orbidex::glbResultsFile, results);
         events_ = users * kDays * kEventsADay;
     }
-    ~StaffProgram() {
-        orbidex::ResetProgramState();
-        orbidex::SetPlatform(nullptr);
-    }
-    StaffProgram(const StaffProgram&) = delete;
-    StaffProgram& operator=(const StaffProgram&) = delete;
 
     static orbidex::VbDate Start() { return orbidex::DateSerial(2004, 6, 5); }
     void Draw(int days) {
@@ -79,8 +67,6 @@ public:
     long Events() const { return events_; }
 
 private:
-    orbidex::test::TempFolder folder_;
-    orbidex::test::ScriptedPlatform platform_;
     orbidex::ListView users_{"lvUsers"};
     orbidex::FlexGrid grid_{"gridDays"};
     long events_ = 0;
