@@ -8,8 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "FuzzProgram.h"
 #include "config/clsConfigDiary.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -18,13 +17,7 @@
 #include "screen/clsDiaryScreen.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static orbidex::test::ScriptedPlatform platform;
-    static orbidex::test::TempFolder folder;
-    platform.SetProgramFolder(folder.Stored());
-    platform.SetProblemHandler([](const std::string&) {});  // the sticky note needs no script
-    orbidex::SetPlatform(&platform);
-    orbidex::ResetProgramState();
-    orbidex::gStrDataPath = folder.Stored() + "\\";
+    orbidex::test::ScriptedPlatform& platform = orbidex::test::StartFuzzInput().platform;
     orbidex::gStrIniFile = orbidex::gStrDataPath + "orbidex.ini";
     orbidex::glbConfig.fname = orbidex::gStrIniFile;
     orbidex::glbLog.init(orbidex::gStrDataPath + "OX_LOG.log", "", "", true, 0);

@@ -7,8 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "FuzzProgram.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -30,14 +29,8 @@ std::vector<std::string> linesHolding(const std::string& bytes, const std::strin
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static orbidex::test::ScriptedPlatform platform;
-    static orbidex::test::TempFolder folder;
     if (size < 2) return 0;
-    platform.SetProgramFolder(folder.Stored());
-    orbidex::SetPlatform(&platform);
-    orbidex::ResetProgramState();
-    orbidex::gLogLevel = -2;
-    orbidex::gStrDataPath = folder.Stored() + "\\";
+    orbidex::test::StartFuzzInput();
 
     const bool caseSensitive = (data[0] & 0x80) != 0;
     const size_t textLength = std::min<size_t>(data[0] & 0x0F, size - 1);

@@ -9,8 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "ScriptedPlatform.h"
-#include "TempFolder.h"
+#include "FuzzProgram.h"
 #include "config/clsConfigDiary.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/FileSystem.h"
@@ -24,21 +23,21 @@
 namespace {
 
 // The user's own event: only work that names its details can take it out.
-const std::string kOwn = std::string("D200406010001\x1F" "20040601\x1FPhone\x1F" "0900\x1F" "30\x1F\x1F\x1F\x1F\x1F\x1F"
-                                     "\x1F\x1F\x1F\x1F") + "Own\x7F event\x1F\r\n";
+const std::string kOwn = std::string(
+                             "D200406010001\x1F"
+                             "20040601\x1FPhone\x1F"
+                             "0900\x1F"
+                             "30\x1F\x1F\x1F\x1F\x1F\x1F"
+                             "\x1F\x1F\x1F\x1F") +
+                         "Own\x7F event\x1F\r\n";
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static orbidex::test::ScriptedPlatform platform;
-    static orbidex::test::TempFolder folder;
-    platform.SetProgramFolder(folder.Stored());
-    platform.SetProblemHandler([](const std::string&) {});
+    orbidex::test::FuzzProgram& program = orbidex::test::StartFuzzInput();
+    orbidex::test::ScriptedPlatform& platform = program.platform;
+    const orbidex::test::TempFolder& folder = program.folder;
     platform.AllowUnscriptedForms(true);
-    platform.ClearTranscript();
-    orbidex::SetPlatform(&platform);
-    orbidex::ResetProgramState();
-    orbidex::gLogLevel = -2;
     std::filesystem::remove_all(folder.Native() + "/fred");
     std::filesystem::remove_all(folder.Native() + "/data");
     const std::string share = folder.Stored() + "\\fred\\";
