@@ -23,13 +23,10 @@
 namespace {
 
 // The user's own event: only work that names its details can take it out.
-const std::string kOwn = std::string(
-                             "D200406010001\x1F"
-                             "20040601\x1FPhone\x1F"
-                             "0900\x1F"
-                             "30\x1F\x1F\x1F\x1F\x1F\x1F"
-                             "\x1F\x1F\x1F\x1F") +
-                         "Own\x7F event\x1F\r\n";
+// clang-format off
+const std::string kOwn = std::string("D200406010001\x1F" "20040601\x1FPhone\x1F" "0900\x1F" "30\x1F\x1F\x1F\x1F\x1F\x1F"
+                                     "\x1F\x1F\x1F\x1F") + "Own\x7F event\x1F\r\n";
+// clang-format on
 
 }  // namespace
 
