@@ -114,6 +114,8 @@ public:
     void StartCompanionTool(const std::string& exeName);
     /// Turns the log up to the detailed trace, or back down to errors.
     void ToggleDetailedLogging();
+    /// Turns on, or off, the demand that the server confirm every save.
+    void ToggleServerEnforce();
     /// Starts the updater beside the program and ends this run.
     void RestartProgram();
     /// The totals of the view in the status bar.
