@@ -180,7 +180,8 @@ public:
     /// anew with it.
     void ShowColours();
     /// The columns of the event list ("ListViewHeadings") or of the task list
-    /// ("TaskHeadings"); afterwards the list is drawn with them.
+    /// ("TaskHeadings"); afterwards the list is drawn with them.  The note's fields
+    /// ("NoteHeadings") are only written: the note list shows the title alone.
     void ShowHeadings(const std::string& section);
     /// The about box.
     void ShowAbout();
