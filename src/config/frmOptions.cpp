@@ -81,8 +81,12 @@ void frmOptions::placeControls() {
     cmdTaskHeadings.Caption = "Task Headings...";
     cmdTaskHeadings.Enabled = true;
     cmdTaskHeadings.ToolTipText = "The columns of the task list";
-    placeHeadingsTab(frameOpt(4), cmdNoteHeadings, "The note list shows the title of each note.");
+    placeHeadingsTab(frameOpt(4), cmdNoteHeadings,
+                     "Choose the fields of a note and the heading of each; the note list itself shows the title of "
+                     "each note. The choice is kept at once, whichever button closes this window.");
     cmdNoteHeadings.Caption = "Note Headings...";
+    cmdNoteHeadings.Enabled = true;
+    cmdNoteHeadings.ToolTipText = "The fields of a note and their headings";
     placeTicks(frameOpt(5), {{&chkShowShaded, "Shade the times when the others are busy"},
                              {&chkShowLocation, "Show where each event is"},
                              {&chkShowDetails, "Show the text of each event"},
@@ -218,6 +222,7 @@ void frmOptions::bindEvents() {
     VScroll2.onChange = [this] { VScroll2_Change(); };
     cmdCalendarHeadings.onClick = [this] { cmdCalendarHeadings_Click(); };
     cmdTaskHeadings.onClick = [this] { cmdTaskHeadings_Click(); };
+    cmdNoteHeadings.onClick = [this] { cmdNoteHeadings_Click(); };
     cmdOK.onClick = [this] { cmdOK_Click(); };
     cmdCancel.onClick = [this] { cmdCancel_Click(); };
 }
@@ -302,6 +307,10 @@ void frmOptions::cmdCalendarHeadings_Click() {
 
 void frmOptions::cmdTaskHeadings_Click() {
     frmDiaryPickFields("TaskHeadings").Show(true);
+}
+
+void frmOptions::cmdNoteHeadings_Click() {
+    frmDiaryPickFields("NoteHeadings").Show(true);
 }
 
 void frmOptions::cmdDefault_Click() {

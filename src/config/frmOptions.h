@@ -53,6 +53,7 @@ public:
     /// The columns of the event list, and of the task list, in their dialog.
     void cmdCalendarHeadings_Click();
     void cmdTaskHeadings_Click();
+    void cmdNoteHeadings_Click();
     void cmbCal_Click(int index);
     void VScroll1_Change();
     void VScroll2_Change();

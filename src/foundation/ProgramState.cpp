@@ -36,6 +36,7 @@ bool glbRefreshNeeded = false;
 std::string glbTickedUsers;
 std::string glbResultsFile;
 std::string glbKeepAliveSwitch;
+bool glbServerConfirm = false;
 bool glbSearching = false;
 bool glbCancelClicked = false;
 
@@ -69,6 +70,7 @@ void ResetProgramState() {
     glbTickedUsers.clear();
     glbResultsFile.clear();
     glbKeepAliveSwitch.clear();
+    glbServerConfirm = false;
     glbSearching = false;
     glbCancelClicked = false;
 

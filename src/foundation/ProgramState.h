@@ -43,6 +43,7 @@ extern bool glbRefreshNeeded;
 extern std::string glbTickedUsers;
 extern std::string glbResultsFile;
 extern std::string glbKeepAliveSwitch;
+extern bool glbServerConfirm;            ///< the server must confirm every save; nothing reads it yet
 
 // The search
 extern bool glbSearching;                 ///< a search is filling the result list

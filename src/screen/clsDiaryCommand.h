@@ -114,6 +114,8 @@ public:
     void StartCompanionTool(const std::string& exeName);
     /// Turns the log up to the detailed trace, or back down to errors.
     void ToggleDetailedLogging();
+    /// Turns on, or off, the demand that the server confirm every save.
+    void ToggleServerEnforce();
     /// Starts the updater beside the program and ends this run.
     void RestartProgram();
     /// The totals of the view in the status bar.
@@ -178,7 +180,8 @@ public:
     /// anew with it.
     void ShowColours();
     /// The columns of the event list ("ListViewHeadings") or of the task list
-    /// ("TaskHeadings"); afterwards the list is drawn with them.
+    /// ("TaskHeadings"); afterwards the list is drawn with them.  The note's fields
+    /// ("NoteHeadings") are only written: the note list shows the title alone.
     void ShowHeadings(const std::string& section);
     /// The about box.
     void ShowAbout();

@@ -39,9 +39,10 @@ void clsDiaryCommand::ShowHeadings(const std::string& section) {
         glbConfig.ReadAllSettings();
         glbScreen.SwitchMode(glbScreen.Mode(), true);
         glbScreen.resize();
-    } else {
+    } else if (section == "ListViewHeadings") {
         glbEvents.DiaryTopLevelDisplay(form_->MonthView1.Value);
     }
+    // The note list draws its own columns (the title alone): nothing to draw again.
     timerOn(true);
 }
 

@@ -1,5 +1,5 @@
 // The entries of the tools, beta and help menus: companion programs, the log level,
-// the totals of the view, help and the maker's pages.
+// the server's confirmation, the totals of the view, help and the maker's pages.
 #include <algorithm>
 
 #include "config/clsConfigDiary.h"
@@ -34,6 +34,16 @@ void clsDiaryCommand::ToggleDetailedLogging() {
         platform().MsgBox("Logging Level turned Up", vbOKOnly, "Logging turned up to detailed");
     else
         platform().MsgBox("Logging Level turned down to Errors only", vbOKOnly, "Logging turned down to normal");
+}
+
+void clsDiaryCommand::ToggleServerEnforce() {
+    glbServerConfirm = !glbServerConfirm;
+    if (form_ != nullptr) form_->mnuBetaServerEnforce.Checked = glbServerConfirm;
+    const std::string title = "Enforce Confirm save from server";
+    if (glbServerConfirm)
+        platform().MsgBox("Server Enforced is on", vbOKOnly, title);
+    else
+        platform().MsgBox("Server Enforced is Off\r\nServer does not have to respond to all requests", vbOKOnly, title);
 }
 
 void clsDiaryCommand::RestartProgram() {

@@ -17,7 +17,6 @@ namespace {
 // operation in this version of the program.
 const std::set<std::string>& entriesWithoutOperation() {
     static const std::set<std::string> names = {
-        "mnuNotesMenu(3)", "mnuBetaServerEnforce",
     };
     return names;
 }
@@ -107,6 +106,7 @@ void frmClientDiaryMain::bindMenus() {
             if (i == 0) glbCmd.NoteAdd();
             if (i == 1) glbCmd.NoteEdit();
             if (i == 2) glbCmd.NoteDelete();
+            if (i == 3) glbCmd.ShowHeadings("NoteHeadings");
             if (i == 4) glbCmd.RecreateNotes(false);
             if (i == 5) glbCmd.RecreateNotes(true);
             glbScreen.resize();
@@ -133,6 +133,7 @@ void frmClientDiaryMain::bindMenus() {
     mnuServerLoggon.onClick = [] { glbComms.Logon(); };
     mnuServerLogoff.onClick = [] { glbComms.Logoff(); };
 
+    mnuBetaServerEnforce.onClick = [] { glbCmd.ToggleServerEnforce(); };
     mnuBetaTestLog.onClick = [] { glbCmd.ToggleDetailedLogging(); };
     mnuBetaReindexTask.onClick = [] { glbCmd.ReIndexTasks(); };
     mnuBetaRestart.onClick = [] { glbCmd.RestartProgram(); };

@@ -62,10 +62,10 @@ TEST_F(CommandsTest, GridOrListIsSavedAndShown) {
     EXPECT_FALSE(Form().lvDiary.Visible);
 }
 
-TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
+TEST_F(CommandsTest, EntriesWithAnOperationAreEnabled) {
     StartProgram();
     for (Menu* entry : {&Form().mnuNotesMenu[3], &Form().mnuBetaServerEnforce})
-        EXPECT_FALSE(entry->Enabled) << entry->Name();
+        EXPECT_TRUE(entry->Enabled) << entry->Name();
     for (Menu* entry : {&Form().mnuFilePrint, &Form().mnuFileExit, &Form().mnuViewMode[2], &Form().mnuViewRefresh,
                         &Form().mnuBetaTest[3], &Form().mnuHelpContents, &Form().mnuAppAdd, &Form().mnuAppRecurring,
                         &Form().mnuPopupGridAdd, &Form().mnuTaskMenu[0], &Form().mnuNotesMenu[5],
@@ -75,11 +75,6 @@ TEST_F(CommandsTest, EntriesWithoutOperationStayDisabled) {
                         &Form().mnuOptionsDisplay, &Form().mnuOptionsListView, &Form().mnuOptionsTaskHeadings,
                         &Form().mnuToolsCalendar, &Form().mnuHelpAbout})
         EXPECT_TRUE(entry->Enabled) << entry->Name();
-
-    // A click on a row asks to enable the notes' entries; the field picker stays off.
-    glbScreen.SwitchMode("NOTE");
-    Form().mnuNotesMenu[3].UserClick();
-    EXPECT_FALSE(Form().mnuNotesMenu[3].Enabled);
 
     // "new" adds where there is something to add: events, tasks, notes and meetings.
     Toolbar& bar = Form().Toolbar1;

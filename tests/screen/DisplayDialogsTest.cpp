@@ -26,11 +26,14 @@ using namespace orbidex;
 
 class DisplayDialogsTest : public test::MainScreenFixture {
 protected:
-    /// A started program with a dentist's appointment today at 10:00, in the grid.
+    /// A started program with a dentist's appointment today at 10:00, in the grid, and
+    /// a note on the garden.
     void SetUp() override {
         MainScreenFixture::SetUp();
         test::Event dentist{"E1", "20040605", "1000", "Dentist"};
         WriteBytes(DataPath() + "D200406.dat", dentist.Line() + "\r\n");
+        WriteBytes(DataPath() + "allnotes.dat",
+                   Replace("N200406050001|20040605|20040605||||Garden.txt|Garden plans|\r\n", "|", "\x1F"));
         StartProgram();
         platform_.ClearTranscript();
     }
@@ -180,6 +183,91 @@ TEST_F(DisplayDialogsTest, TaskHeadingsFromTheTasksMenuReachTheTaskListThroughTh
     for (long i = 1; i <= Form().lvCat.ColumnHeaders.Count(); ++i)
         columns.push_back(Form().lvCat.ColumnHeaders(i).Text);
     EXPECT_EQ(columns, (std::vector<std::string>{" ", "Urgency", "Task Details"}));
+}
+
+TEST_F(DisplayDialogsTest, NoteHeadingsFromTheMenuAndTheOptionsAreWrittenAndTheNoteListKeepsTheTitle) {
+    const auto throughOptions = [this](bool ok) {
+        Script<frmOptions>("frmOptions", [ok](frmOptions& options) {
+            EXPECT_EQ(options.tabOpt.SelectedItem()->Caption(), "Notes") << "the tab of the present mode";
+            options.cmdNoteHeadings.UserClick();
+            (ok ? options.cmdOK : options.cmdCancel).UserClick();
+        });
+        Form().mnuViewSetup.UserClick();
+    };
+    const auto section = [](const std::string& created, const std::string& category, const std::string& title) {
+        return "\r\n[NoteHeadings]\r\nID=<hide>\r\nCreated=" + created +
+               "\r\nModified=<hide>\r\nReference=<hide>\r\nColor=<hide>\r\nCategory=" + category +
+               "\r\nFilename=<hide>\r\ntitle=" + title + "\r\n";
+    };
+    // What each field shows when the picker opens: its heading when ticked, "-" when not.
+    using Shown = std::vector<std::string>;
+    const struct {
+        std::string how;
+        std::function<void()> open;
+        Shown before;
+        int toggled;
+        std::string title;
+        std::string written;
+    } cases[] = {
+        {"Notes menu, no key yet", [this] { Form().mnuNotesMenu[3].UserClick(); },
+         Shown{"-", "-", "-", "-", "-", "-", "-", "Title"}, 1, "Subject", section("Created", "<hide>", "Subject")},
+        {"options closed with OK", [&] { throughOptions(true); },
+         Shown{"-", "Created", "-", "-", "-", "-", "-", "Subject"}, 5, "Note", section("Created", "Category", "Note")},
+        {"options closed with Cancel", [&] { throughOptions(false); },
+         Shown{"-", "Created", "-", "-", "-", "Category", "-", "Note"}, 1, "Name",
+         section("<hide>", "Category", "Name")},
+    };
+    glbScreen.SwitchMode("NOTE");
+    for (const auto& c : cases) {
+        Script<frmDiaryPickFields>("frmDiaryPickFields", [&c](frmDiaryPickFields& dialog) {
+            EXPECT_EQ(dialog.Caption(), "Note Headings") << c.how;
+            Shown names;
+            Shown before;
+            for (int i = 0; i < dialog.Fields(); ++i) {
+                names.push_back(dialog.chkField(i).Caption());
+                before.push_back(dialog.chkField(i).Value() == vbChecked ? dialog.txtCaption(i).Text() : "-");
+            }
+            EXPECT_EQ(names, (Shown{"Identifier", "Created", "Modified", "Reference", "Colour", "Category", "File name",
+                                    "Title"}));
+            EXPECT_EQ(before, c.before) << c.how;
+            dialog.chkField(c.toggled).UserClick();
+            dialog.txtCaption(7).UserEdit(c.title, static_cast<long>(c.title.size()));
+            dialog.cmdOK.UserClick();
+        });
+        c.open();
+        EXPECT_NE(Ini().find(c.written), std::string::npos) << c.how << "\n" << Ini();
+        for (bool redrawn : {false, true}) {
+            if (redrawn) glbScreen.SwitchMode("NOTE", true);
+            ListView& list = Form().lvCat;
+            EXPECT_EQ(Columns(list), Shown{"Title"}) << c.how << (redrawn ? ", drawn again" : "");
+            ASSERT_EQ(list.ListItems.Count(), 1) << c.how;
+            EXPECT_EQ(list.ListItems(1).ListSubItems.Count(), 1) << c.how;
+            EXPECT_EQ(list.ListItems(1).ListSubItems(1).Text(), "Garden plans") << c.how;
+        }
+    }
+}
+
+TEST_F(DisplayDialogsTest, EnforcingTheServersConfirmationTurnsOnAndOffTwice) {
+    const struct {
+        bool on;
+        std::string text;
+    } clicks[] = {
+        {true, "Server Enforced is on"},
+        {false, "Server Enforced is Off\r\nServer does not have to respond to all requests"},
+        {true, "Server Enforced is on"},
+        {false, "Server Enforced is Off\r\nServer does not have to respond to all requests"},
+    };
+    ASSERT_FALSE(glbServerConfirm);
+    ASSERT_FALSE(Form().mnuBetaServerEnforce.Checked);
+    std::vector<std::string> shown;
+    for (const auto& click : clicks) {
+        Form().mnuBetaServerEnforce.UserClick();
+        shown.push_back(click.text);
+        EXPECT_EQ(glbServerConfirm, click.on);
+        EXPECT_EQ(Form().mnuBetaServerEnforce.Checked(), click.on);
+        EXPECT_EQ(platform_.Transcript().back().title, "Enforce Confirm save from server");
+    }
+    EXPECT_EQ(platform_.MessageTexts(), shown) << "one message a click, in order";
 }
 
 TEST_F(DisplayDialogsTest, PerpetualCalendarMovesByYearAndAClickedDayShowsInTheDiary) {

@@ -63,6 +63,18 @@ TEST_F(DisplayWindowTest, HeadingUntickedLeavesTheEventListAtOnce) {
     EXPECT_EQ(list.ColumnHeaders(3).Text(), "Length") << "Time is gone";
 }
 
+TEST_F(DisplayWindowTest, NoteHeadingsFromTheNotesMenuAreWrittenToTheSettings) {
+    Photograph(QStringLiteral("Choose Notes Headings"), QStringLiteral("note-headings"),
+               [this](Form& form, QWidget& window) {
+                   auto& dialog = static_cast<frmDiaryPickFields&>(form);
+                   QTest::mouseClick(ViewOf<CheckBoxWidget>(window, dialog.chkField(5))->checkBox(), Qt::LeftButton);
+                   Press(window, dialog.cmdOK);
+               });
+    std::string settings;
+    ASSERT_TRUE(ReadWholeFile(gStrIniFile, settings));
+    EXPECT_NE(settings.find("\r\nCategory=Category\r\nFilename=<hide>\r\ntitle=Title\r\n"), std::string::npos);
+}
+
 TEST_F(DisplayWindowTest, HelpContentsInTheBrowserPane) {
     MakeFolder(folder_.Stored() + "\\help");
     std::string page;

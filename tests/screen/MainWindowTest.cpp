@@ -196,7 +196,10 @@ TEST_F(MainWindowTest, MenusToolBarAndIcons) {
     ASSERT_NE(print, nullptr);
     EXPECT_TRUE(print->isEnabled());
     EXPECT_EQ(print->shortcut(), QKeySequence(QStringLiteral("Ctrl+P")));
-    EXPECT_FALSE(entry(QStringLiteral("&Beta"), QStringLiteral("Enforce Confirm save from server"))->isEnabled());
+    QAction* enforce = entry(QStringLiteral("&Beta"), QStringLiteral("Enforce Confirm save from server"));
+    ASSERT_NE(enforce, nullptr);
+    EXPECT_TRUE(enforce->isEnabled());
+    EXPECT_FALSE(enforce->isChecked()) << "off at start";
     EXPECT_EQ(entry(QStringLiteral("&View"), QStringLiteral("&Refresh"))->shortcut(),
               QKeySequence(QStringLiteral("F5")));
 
