@@ -205,6 +205,27 @@ TEST_F(DiaryServerTest, MessagesAndChangedMeetingsGoToTheUsersTheyNameOneFileAtA
     EXPECT_EQ(ReadBytes(Mary("_4CLIENT.MESSAGE")), "20040605 09:30:12\r\nfred\r\nRoom 2\r\n");
 }
 
+TEST_F(DiaryServerTest, WorkLeftByAPassThatStoppedIsFinishedFirst) {
+    // A pass stopped after moving fred's month, message and booking out of his folder.
+    const std::string store = StoreFolder("fred");
+    MakePathAux(store);
+    WriteBytes(store + "D200406.dat_NET.taken", "June\r\n");
+    WriteBytes(store + "message.txt.taken", "mary, \r\n20040605 09:30:12\r\nLunch?\r\n");
+    WriteBytes(store + "ADD.TXT.taken", std::string("mary\x1F") + "booked\r\n");
+    // The client handed a newer June over meanwhile: it is taken after the old one.
+    WriteBytes(UserFolder("fred") + "D200406.dat_NET", "newer June\r\n");
+    WriteBytes(UserFolder("fred") + "D200406.dat_NET.OK", "this was saved by the client on 2004-06-05 09:31:00\r\n");
+    server_->Poll();
+
+    EXPECT_EQ(ReadBytes(store + "D200406.dat_NET"), "newer June\r\n");
+    EXPECT_EQ(ReadBytes(Mary("_4CLIENT.MESSAGE")), "20040605 09:30:12\r\nfred\r\nLunch?\r\n");
+    EXPECT_EQ(ReadBytes(Mary("_4CLIENT.ADD")), "booked\r\n");
+    for (const char* name : {"D200406.dat_NET", "message.txt", "ADD.TXT"}) {
+        EXPECT_FALSE(FileExists(store + name + ".taken")) << name;
+        EXPECT_TRUE(ServerLogged(std::string("finished fred\\") + name + " left by a pass that stopped")) << name;
+    }
+}
+
 TEST_F(DiaryServerTest, EachLineOfABookingGoesToTheUserItNames) {
     const std::string meeting =
         test::Fields({"D200406100001", "20040610", "Meeting", "1400", "60", "Meeting request for fred, mary, ", "fred",

@@ -17,6 +17,8 @@ namespace {
 
 // The server's own folder inside the share; a name with a leading "." is nobody's.
 constexpr std::string_view kStoreRoot = ".server\\";
+// A file moved out of a user's folder into the store, until the server has acted on it.
+constexpr std::string_view kTaken = ".taken";
 
 // Files of the exchange that are not hand-overs, even when an ".OK" stands beside
 // them: the server answers them, writes them itself, or routes them.
@@ -79,6 +81,7 @@ void DiaryServer::Poll() {
     // Everything handed over in this pass is in the store before any search runs.
     for (const std::string& user : users) {
         const UserFolder folder = listed(user);
+        finishTakenFiles(folder);
         takeLogOnAndOff(folder);
         answerPing(folder);
         takeOverHandedFiles(folder);
@@ -118,6 +121,26 @@ void DiaryServer::answerPing(const UserFolder& folder) {
     log("answered " + folder.user + "'s " + chat);
 }
 
+// A pass that stopped between moving a file out of a user's folder and acting on it
+// left it in the store as "<name>.taken": the next pass does what was left, before
+// it takes anything newer.
+void DiaryServer::finishTakenFiles(const UserFolder& folder) {
+    const std::string store = StoreFolder(folder.user);
+    for (const std::string& taken : ListFolder(store + "*" + std::string(kTaken), false)) {
+        const std::string name = Left(taken, Len(taken) - Len(kTaken));
+        std::string text;
+        if (!ReadWholeFile(store + taken, text)) continue;
+        if (EqualsText(name, sf::kMessage))
+            routeMessage(folder.user, text);
+        else if (EqualsText(name, sf::kAdd))
+            routeBookings(folder.user, text);
+        else if (!keepInStore(folder, name, text))
+            continue;
+        DeleteFile(store + taken);
+        log("finished " + folder.user + "\\" + name + " left by a pass that stopped");
+    }
+}
+
 void DiaryServer::takeOverHandedFiles(const UserFolder& folder) {
     for (const std::string& confirmName : folder.names) {
         if (!EndsWith(UCase(confirmName), std::string(sf::kOK))) continue;
@@ -142,7 +165,7 @@ void DiaryServer::takeOverHandedFiles(const UserFolder& folder) {
             continue;
         }
         if (!ReadWholeFile(confirm, confirmText) || !DeleteFile(confirm)) continue;  // handed over anew
-        const std::string taken = store + name + ".taken";
+        const std::string taken = store + name + std::string(kTaken);
         std::string bytes;
         if (!RenameFile(folder.path + name, taken) || !ReadWholeFile(taken, bytes)) continue;
         if (!keepInStore(folder, name, bytes)) {
@@ -228,8 +251,8 @@ std::string DiaryServer::searchResults(const std::string& requestText, const std
 }
 
 void DiaryServer::routeWork(const UserFolder& folder) {
-    routeMessage(folder);
-    routeBookings(folder);
+    routeMessage(folder.user, takeWork(folder, sf::kMessage, sf::kMessageOK));
+    routeBookings(folder.user, takeWork(folder, sf::kAdd, std::string(sf::kAdd) + std::string(sf::kOK)));
 }
 
 // A file of work the client publishes with its ".OK": the ".OK" goes before the file
@@ -239,7 +262,7 @@ std::string DiaryServer::takeWork(const UserFolder& folder, std::string_view fil
     const std::string confirm = folder.find(confirmFile);
     const std::string name = folder.find(file);
     if (confirm.empty() || name.empty()) return "";
-    const std::string taken = StoreFolder(folder.user) + std::string(file) + ".taken";
+    const std::string taken = StoreFolder(folder.user) + std::string(file) + std::string(kTaken);
     MakePathAux(StoreFolder(folder.user));
     DeleteFile(folder.path + confirm);
     std::string text;
@@ -249,23 +272,21 @@ std::string DiaryServer::takeWork(const UserFolder& folder, std::string_view fil
 }
 
 // A message goes to every user it names, the sender too.
-void DiaryServer::routeMessage(const UserFolder& folder) {
-    const std::string text = takeWork(folder, sf::kMessage, sf::kMessageOK);
+void DiaryServer::routeMessage(const std::string& sender, const std::string& text) {
     if (text.empty()) return;
     const OutgoingMessage message = ParseMessage(text);
-    if (message.text.empty()) log(folder.user + "\\" + std::string(sf::kMessage) + " holds no text - dropped");
+    if (message.text.empty()) log(sender + "\\" + std::string(sf::kMessage) + " holds no text - dropped");
     for (const std::string& user : message.users)
-        if (!message.text.empty() && queueFor(user, sf::kClientMessage, MessageFor(message, folder.user)))
-            log("message from " + folder.user + " for " + user);
+        if (!message.text.empty() && queueFor(user, sf::kClientMessage, MessageFor(message, sender)))
+            log("message from " + sender + " for " + user);
 }
 
 // Each line of a booking names one user; the event behind the name goes to that
 // user's _4CLIENT.ADD, the booker's own included.
-void DiaryServer::routeBookings(const UserFolder& folder) {
-    const std::string text = takeWork(folder, sf::kAdd, std::string(sf::kAdd) + std::string(sf::kOK));
+void DiaryServer::routeBookings(const std::string& sender, const std::string& text) {
     for (const MeetingBooking& booking : ParseBookings(text))
         if (queueFor(booking.user, sf::kClientAdd, booking.eventLine + "\r\n"))
-            log("meeting from " + folder.user + " for " + booking.user);
+            log("meeting from " + sender + " for " + booking.user);
 }
 
 void DiaryServer::routeChangeList(const std::string& sender, const std::string& text) {

@@ -42,6 +42,7 @@ private:
     std::vector<std::string> userNames() const;
     void takeLogOnAndOff(const UserFolder& folder);
     void answerPing(const UserFolder& folder);
+    void finishTakenFiles(const UserFolder& folder);
     void takeOverHandedFiles(const UserFolder& folder);
     bool keepInStore(const UserFolder& folder, const std::string& name, const std::string& bytes);
     static void putBack(const std::string& file, const std::string& taken, const std::string& confirm,
@@ -50,8 +51,8 @@ private:
     std::string searchResults(const std::string& requestText, const std::string& asker) const;
     void routeWork(const UserFolder& folder);
     std::string takeWork(const UserFolder& folder, std::string_view file, std::string_view confirmFile);
-    void routeMessage(const UserFolder& folder);
-    void routeBookings(const UserFolder& folder);
+    void routeMessage(const std::string& sender, const std::string& text);
+    void routeBookings(const std::string& sender, const std::string& text);
     void routeChangeList(const std::string& sender, const std::string& text);
     /// Adds `text` to the work waiting in the store for `user`'s file `name`; false
     /// for a user without a folder.
