@@ -75,18 +75,12 @@ void frmOptions::placeControls() {
                              {&chkShortCutSmallIcon, "Small icons in the shortcut bar"},
                              {&chkShowFolders, "Show the folder tree"}});
     placeCalendarTab(frameOpt(2));
-    placeHeadingsTab(frameOpt(3), cmdTaskHeadings,
+    placeHeadingsTab(frameOpt(3), cmdTaskHeadings, "Task Headings...", "The columns of the task list",
                      "Choose the columns of the task list and the heading of each. The choice is kept at once, "
                      "whichever button closes this window.");
-    cmdTaskHeadings.Caption = "Task Headings...";
-    cmdTaskHeadings.Enabled = true;
-    cmdTaskHeadings.ToolTipText = "The columns of the task list";
-    placeHeadingsTab(frameOpt(4), cmdNoteHeadings,
+    placeHeadingsTab(frameOpt(4), cmdNoteHeadings, "Note Headings...", "The fields of a note and their headings",
                      "Choose the fields of a note and the heading of each; the note list itself shows the title of "
                      "each note. The choice is kept at once, whichever button closes this window.");
-    cmdNoteHeadings.Caption = "Note Headings...";
-    cmdNoteHeadings.Enabled = true;
-    cmdNoteHeadings.ToolTipText = "The fields of a note and their headings";
     placeTicks(frameOpt(5), {{&chkShowShaded, "Shade the times when the others are busy"},
                              {&chkShowLocation, "Show where each event is"},
                              {&chkShowDetails, "Show the text of each event"},
@@ -182,11 +176,12 @@ void frmOptions::placeCalendarTab(Frame& tab) {
     cmdCalendarHeadings.ToolTipText = "The columns of the list of events";
 }
 
-void frmOptions::placeHeadingsTab(Frame& tab, CommandButton& button, const std::string& text) {
+void frmOptions::placeHeadingsTab(Frame& tab, CommandButton& button, const std::string& buttonCaption,
+                                  const std::string& tip, const std::string& text) {
     caption(tab, text, 120, 165, kTabWidth - 240, 600);
     place(button, tab, 120, 900, 2400, 375);
-    button.Enabled = false;
-    button.ToolTipText = "Not available yet";
+    button.Caption = buttonCaption;
+    button.ToolTipText = tip;
 }
 
 void frmOptions::placeSecurityTab(Frame& tab) {

@@ -124,7 +124,8 @@ private:
     void placeControls();
     void placeDataFilesTab(Frame& tab);
     void placeCalendarTab(Frame& tab);
-    void placeHeadingsTab(Frame& tab, CommandButton& button, const std::string& text);
+    void placeHeadingsTab(Frame& tab, CommandButton& button, const std::string& buttonCaption, const std::string& tip,
+                          const std::string& text);
     void placeSecurityTab(Frame& tab);
     void placeAdvancedTab(Frame& tab);
     void fillLists();
