@@ -57,9 +57,10 @@ bool IsPathWritable(std::string& folder) {
     if (Trim(folder).empty()) return false;
     const std::string testFile = AddFileToPath(folder, Trim(platform().ExeName()) + ".tmp");
     DeleteFile(testFile);
-    return WriteWholeFile(testFile,
-                          "this is a temp file to check the datapath   \r\n"
-                          "You can delete it to save space (wow - 100 bytes!)\r\n\r\n");
+    // A throwaway file: written plainly, without waiting for the disk.
+    return AppendToFile(testFile,
+                        "this is a temp file to check the datapath   \r\n"
+                        "You can delete it to save space (wow - 100 bytes!)\r\n\r\n");
 }
 
 std::string GetPCUserName() {

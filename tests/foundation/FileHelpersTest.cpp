@@ -55,6 +55,7 @@ TEST_F(FileHelpersTest, IsPathWritableLeavesItsTestFile) {
     folder = Stored("data");
     EXPECT_TRUE(IsPathWritable(folder));
     EXPECT_EQ(folder, Stored("data\\"));
+    EXPECT_TRUE(IsPathWritable(folder)) << "a second check starts the file again";
     EXPECT_EQ(
         ReadBytes(Stored("data\\orbidex.tmp")),
         "this is a temp file to check the datapath   \r\nYou can delete it to save space (wow - 100 bytes!)\r\n\r\n");
