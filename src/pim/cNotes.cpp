@@ -53,6 +53,9 @@ void cNotes::SaveToFile() {
 long cNotes::NoteIndexOf(const cNote* note) const {
     if (note == nullptr) return -1;
     for (long i = 0; i <= Count(); ++i) {
+        // A blank entry of the table is no note: it would match the empty note that
+        // stands for "none selected".
+        if (table_.Item(i).empty()) continue;
         cNote candidate;
         candidate.CreateNoteFromTextLine(table_.Item(i), kFieldDelimiter);
         if (candidate.title == note->title && candidate.DateCreated == note->DateCreated &&

@@ -140,14 +140,21 @@ TEST_F(NotesTest, EditingCountsAndStoresTheLine) {
     glbNotes.Edit();
     EXPECT_EQ(ReadBytes(notesFile), before);
 
-    // A note the list does not hold: said, then the editor opens on a new note.
-    gCurrentNote.title = "Not in the list";
-    QueueEditor(
-        "frmEditNote", [] {}, true);
-    glbNotes.Edit();
-    EXPECT_EQ(platform_.MessageTexts(), std::vector<std::string>{"No note selected"});
-    EXPECT_EQ(platform_.FormsShown().size(), 3U);
-    EXPECT_EQ(ReadBytes(notesFile), before);
+    // A note the list does not hold, or none at all (the list's blank entry is no
+    // note): said, then the editor opens on a new note, and the file stays.
+    cNote notInTheList = gCurrentNote;
+    notInTheList.title = "Not in the list";
+    size_t forms = platform_.FormsShown().size();
+    for (const cNote& note : {notInTheList, cNote()}) {
+        platform_.ClearTranscript();
+        gCurrentNote = note;
+        QueueEditor(
+            "frmEditNote", [] { gCurrentNote.Add("typed"); }, true);
+        glbNotes.Edit();
+        EXPECT_EQ(platform_.MessageTexts(), std::vector<std::string>{"No note selected"}) << note.title;
+        EXPECT_EQ(platform_.FormsShown().size(), ++forms);
+        EXPECT_EQ(ReadBytes(notesFile), before);
+    }
 }
 
 TEST_F(NotesTest, ADeletedNoteKeepsItsBodyAndARebuildBringsItBack) {
