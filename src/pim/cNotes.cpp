@@ -164,6 +164,8 @@ void cNotes::RecreateNotesListFromNotesFolder(bool keepFileNameAsTitle) {
         "category settings for the notes",
         vbYesNo, "Confirm Recreate Notes index");
     if (answer != vbYes) return;
+    // No dialog is involved: a dialog cancelled before must not keep the notes out.
+    glbConfig.dialogCancelled = false;
     DeleteFile(table_.fname());
     table_.LoadFromFile();
     const std::vector<std::string> files = ListFolder(NotesFolder() + "*.*", false);

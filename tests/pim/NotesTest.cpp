@@ -171,6 +171,7 @@ TEST_F(NotesTest, ADeletedNoteKeepsItsBodyAndARebuildBringsItBack) {
     platform_.QueueMsgBoxAnswer(vbNo);
     glbNotes.RecreateNotesListFromNotesFolder(true);
     EXPECT_EQ(glbNotes.Count(), 2);
+    glbConfig.dialogCancelled = true;  // as a dialog closed with its close box leaves it
     platform_.QueueMsgBoxAnswer(vbYes);
     glbNotes.RecreateNotesListFromNotesFolder(true);
     EXPECT_EQ(platform_.MessageTexts().back(), "Finished Adding 3 notes from the files in " + DataPath() + "notes\\");
