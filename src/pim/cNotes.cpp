@@ -85,7 +85,7 @@ void cNotes::Add(ListView& listControl, const cNote* note) {
     // not added.
     if (glbConfig.dialogCancelled) return;
 
-    table_.ReloadIfChangedOnDisk();
+    if (!table_.ReloadIfChangedOnDisk()) return;
     gCurrentNote.ID = table_.getUniqueID(table_.fname(), Today());
     fillIfBlank(gCurrentNote.DateCreated, today());
     fillIfBlank(gCurrentNote.DateAccessed, today());
@@ -100,7 +100,7 @@ void cNotes::Add(ListView& listControl, const cNote* note) {
 }
 
 void cNotes::Edit() {
-    table_.ReloadIfChangedOnDisk();
+    if (!table_.ReloadIfChangedOnDisk()) return;
     const long index = NoteIndexOf(&gCurrentNote);
     if (index < 0) {
         platform().MsgBox("No note selected", vbOKOnly, "");
@@ -122,7 +122,10 @@ void cNotes::Edit() {
 void cNotes::Delete(long& index) {
     platform().SetBusyCursor(true);
     if (index == 0) {
-        table_.ReloadIfChangedOnDisk();
+        if (!table_.ReloadIfChangedOnDisk()) {
+            platform().SetBusyCursor(false);
+            return;
+        }
         index = NoteIndexOf(&gCurrentNote);
         if (index < 1) {
             platform().MsgBox("cant delete - Invalid note selected", vbOKOnly, "");
