@@ -84,6 +84,9 @@ public:
     Menu mnuClipGetDiaryCurrentEvent{this, "mnuClipGetDiaryCurrentEvent", "Get text for current event from Diary",
                                      &popupClip};
     Menu mnuClipClear{this, "mnuClipClear", "Clear this Clipboard", &popupClip};
+    // As on the note editor's menu, these two have no handler and do nothing.
+    Menu mnuClipLoad{this, "mnuClipLoad", "Load a Text File", &popupClip};
+    Menu mnuClipSave{this, "mnuClipSave", "Save this Clipboard as a File", &popupClip};
 
 private:
     void bindEvents();

@@ -67,6 +67,17 @@ TEST_F(ScratchPadTest, TabsLiveUntilRemovedWithoutASavingStep) {
     EXPECT_EQ(pad.tabClip.Tabs(1).Caption(), "Scratch Pad 1");
     EXPECT_EQ(pad.txtClip.Text(), kWelcome) << "a first start";
     EXPECT_FALSE(pad.mnuClipSendToVimmer.Visible);
+    // The text's menu is the note editor's; loading and saving a file do nothing there.
+    std::vector<std::string> entries;
+    for (const Menu* entry : pad.popupClip.Items()) entries.push_back(entry->Caption());
+    EXPECT_EQ(entries, (std::vector<std::string>{"Undo", "Cut", "Copy", "Paste", "Select All", "Select All and Copy",
+                                                 "Send Text back to Vimmer Window", "Get Vimmer Window contents",
+                                                 "Get text for current event from Diary", "Clear this Clipboard",
+                                                 "Load a Text File", "Save this Clipboard as a File"}));
+    pad.mnuClipLoad.UserClick();
+    pad.mnuClipSave.UserClick();
+    EXPECT_EQ(pad.txtClip.Text(), kWelcome);
+    EXPECT_TRUE(platform_.Transcript().empty());
 
     // Three tabs, each typed into as it is added; a comma cannot end a tab's name early.
     for (const char* name : {"Shopping", "Work, ideas", "Books"}) {
