@@ -128,8 +128,12 @@ void frmClipboard::Form_Resize() {
     txtClip.Move(0, kTabRowHeight, width, std::max(0L, height - kTabRowHeight));
 }
 
-void frmClipboard::Form_Unload(int&) {
-    saveShownTab();
+void frmClipboard::Form_Unload(int& cancel) {
+    // A text that could not be written keeps the window open, so it is not lost.
+    if (!saveShownTab()) {
+        cancel = 1;
+        return;
+    }
     tmrSave.Enabled = false;
     glbConfig.SaveFormSettings(*this, gStrIniFile);
     SaveScratchTabs(IniPath());
@@ -178,7 +182,13 @@ void frmClipboard::showTab(long index) {
 
 void frmClipboard::tabClip_Click() {
     if (filling_) return;
-    saveShownTab();
+    if (!saveShownTab()) {
+        // The text that could not be written stays in the box, on its own tab.
+        filling_ = true;
+        tabClip.Tabs(shown_ + 1).Selected = true;
+        filling_ = false;
+        return;
+    }
     filling_ = true;
     txtClip.Text = "";
     filling_ = false;
@@ -241,8 +251,9 @@ void frmClipboard::mnuTabsRename_Click() {
 void frmClipboard::popupTabsRemove_Click() {
     Tab* tab = tabClip.SelectedItem();
     if (tab == nullptr || tabs_.size() <= 1) return;
-    // The tab's file stays on the disk: removing a tab never loses its text.
-    saveShownTab();
+    // The tab's file stays on the disk: removing a tab never loses its text.  A text
+    // that could not be written keeps its tab.
+    if (!saveShownTab()) return;
     const long index = tab->Index();
     tabs_.erase(tabs_.begin() + (index - 1));
     SaveScratchTabs(IniPath());

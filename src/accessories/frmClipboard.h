@@ -21,7 +21,8 @@ public:
 
     void Form_Load() override;
     void Form_Resize() override;
-    /// Keeps the shown tab's text, the window's place and the list of tabs.
+    /// Keeps the shown tab's text, the window's place and the list of tabs.  When the
+    /// text can't be written, the window stays open.
     void Form_Unload(int& cancel) override;
 
     /// Reads the list of tabs; a missing file, or one that names no tab, gives the
@@ -30,6 +31,7 @@ public:
     void SaveScratchTabs(const std::string& iniPath);
 
     /// The shown tab's text goes to its file, the chosen tab's text comes from its.
+    /// When the text can't be written, its tab is chosen again.
     void tabClip_Click();
     void tabClip_MouseDown(int button, int shift, long x, long y);
     void txtClip_Change();
@@ -82,6 +84,9 @@ public:
     Menu mnuClipGetDiaryCurrentEvent{this, "mnuClipGetDiaryCurrentEvent", "Get text for current event from Diary",
                                      &popupClip};
     Menu mnuClipClear{this, "mnuClipClear", "Clear this Clipboard", &popupClip};
+    // As on the note editor's menu, these two have no handler and do nothing.
+    Menu mnuClipLoad{this, "mnuClipLoad", "Load a Text File", &popupClip};
+    Menu mnuClipSave{this, "mnuClipSave", "Save this Clipboard as a File", &popupClip};
 
 private:
     void bindEvents();

@@ -54,7 +54,11 @@ void readSettings() {
 
 // Finds the monthly files and loads the month of today.
 void loadDiary() {
-    glbEvents.InitDiary(&MainForm(), gStrIniFile);
+    // The data folder is checked and completed before the main window is made: the
+    // window's calendar reads this month's file from it.  (InitDiary only keeps the
+    // window to hand it on.)
+    glbEvents.InitDiary(nullptr, gStrIniFile);
+    MainForm();
     // The main window's calendar has loaded this month as it was made, unless the data
     // folder moved or the file changed since.
     if (!glbEvents.HasLoaded(Today())) glbEvents.LoadDiaryData(Today());

@@ -108,22 +108,23 @@ void cData::SaveToFile() {
     stamp_ = stampOf(fname_);
 }
 
-void cData::LoadFromFile() {
-    lines_.assign(101, "");
+bool cData::LoadFromFile() {
     if (fname_.empty()) {
+        lines_.assign(101, "");
         glbLog.log("No note file to load", 0);
-        return;
+        return true;
     }
     if (!FileExists(fname_)) {
+        lines_.assign(101, "");
         glbLog.log("file not found - " + fname_, 3);
         count_ = 0;
         stamp_.clear();
-        return;
+        return true;
     }
     std::string bytes;
     if (!ReadWholeFile(fname_, bytes)) {
         ReportDataError("cData.LoadFromFile", kPathFileAccess);
-        return;
+        return false;
     }
     lines_.clear();
     for (std::string& line : SplitLines(bytes))
@@ -131,16 +132,17 @@ void cData::LoadFromFile() {
     count_ = static_cast<long>(lines_.size());
     lines_.emplace_back();
     stamp_ = stampOf(fname_);
+    return true;
 }
 
 bool cData::FileChangedOnDisk() const {
     return !fname_.empty() && stampOf(fname_) != stamp_;
 }
 
-void cData::ReloadIfChangedOnDisk() {
-    if (!FileChangedOnDisk()) return;
+bool cData::ReloadIfChangedOnDisk() {
+    if (!FileChangedOnDisk()) return true;
     glbLog.log("The file changed on disk - loading it again: " + fname_, 1);
-    LoadFromFile();
+    return LoadFromFile();
 }
 
 std::string cData::stampOf(const std::string& file) {

@@ -53,15 +53,17 @@ public:
     /// each ended by CR LF.
     void SaveToFile();
     /// Reads the file's non-blank lines as they stand.  A missing file is logged and
-    /// leaves the table empty.
-    void LoadFromFile();
+    /// leaves the table empty.  A file that can't be read is reported and leaves the
+    /// table as it was; the answer is then false.
+    bool LoadFromFile();
 
     /// True when the file on disk is not the one the table last read or wrote: its
     /// time or length changed, it appeared or it went.
     bool FileChangedOnDisk() const;
     /// Loads the file again when FileChangedOnDisk, so that a change made outside the
-    /// program is not overwritten by the next save.
-    void ReloadIfChangedOnDisk();
+    /// program is not overwritten by the next save.  False when the changed file can't
+    /// be read: the caller then makes no change, so that no save overwrites it.
+    [[nodiscard]] bool ReloadIfChangedOnDisk();
 
     // Identifiers: a letter, a date as yyyymmdd, four digits.
 

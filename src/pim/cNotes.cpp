@@ -53,6 +53,9 @@ void cNotes::SaveToFile() {
 long cNotes::NoteIndexOf(const cNote* note) const {
     if (note == nullptr) return -1;
     for (long i = 0; i <= Count(); ++i) {
+        // A blank entry of the table is no note: it would match the empty note that
+        // stands for "none selected".
+        if (table_.Item(i).empty()) continue;
         cNote candidate;
         candidate.CreateNoteFromTextLine(table_.Item(i), kFieldDelimiter);
         if (candidate.title == note->title && candidate.DateCreated == note->DateCreated &&
@@ -82,7 +85,7 @@ void cNotes::Add(ListView& listControl, const cNote* note) {
     // not added.
     if (glbConfig.dialogCancelled) return;
 
-    table_.ReloadIfChangedOnDisk();
+    if (!table_.ReloadIfChangedOnDisk()) return;
     gCurrentNote.ID = table_.getUniqueID(table_.fname(), Today());
     fillIfBlank(gCurrentNote.DateCreated, today());
     fillIfBlank(gCurrentNote.DateAccessed, today());
@@ -97,7 +100,7 @@ void cNotes::Add(ListView& listControl, const cNote* note) {
 }
 
 void cNotes::Edit() {
-    table_.ReloadIfChangedOnDisk();
+    if (!table_.ReloadIfChangedOnDisk()) return;
     const long index = NoteIndexOf(&gCurrentNote);
     if (index < 0) {
         platform().MsgBox("No note selected", vbOKOnly, "");
@@ -119,7 +122,10 @@ void cNotes::Edit() {
 void cNotes::Delete(long& index) {
     platform().SetBusyCursor(true);
     if (index == 0) {
-        table_.ReloadIfChangedOnDisk();
+        if (!table_.ReloadIfChangedOnDisk()) {
+            platform().SetBusyCursor(false);
+            return;
+        }
         index = NoteIndexOf(&gCurrentNote);
         if (index < 1) {
             platform().MsgBox("cant delete - Invalid note selected", vbOKOnly, "");
@@ -161,6 +167,8 @@ void cNotes::RecreateNotesListFromNotesFolder(bool keepFileNameAsTitle) {
         "category settings for the notes",
         vbYesNo, "Confirm Recreate Notes index");
     if (answer != vbYes) return;
+    // No dialog is involved: a dialog cancelled before must not keep the notes out.
+    glbConfig.dialogCancelled = false;
     DeleteFile(table_.fname());
     table_.LoadFromFile();
     const std::vector<std::string> files = ListFolder(NotesFolder() + "*.*", false);

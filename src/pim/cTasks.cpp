@@ -63,7 +63,7 @@ void cTasks::Add(ListView& listControl, const cTask* task) {
     // not added.
     if (glbConfig.dialogCancelled) return;
 
-    table_.ReloadIfChangedOnDisk();
+    if (!table_.ReloadIfChangedOnDisk()) return;
     gCurrentTask.ID = table_.getUniqueID(table_.fname(), Today());
     table_.Add(gCurrentTask.FormatRecordAsCSV(kFieldDelimiter, "\r\n"));
     table_.SaveToFile();
@@ -71,7 +71,7 @@ void cTasks::Add(ListView& listControl, const cTask* task) {
 }
 
 long cTasks::AddTasks(const std::vector<cTask>& tasks, std::vector<std::string>& notAdded) {
-    table_.ReloadIfChangedOnDisk();
+    if (!table_.ReloadIfChangedOnDisk()) return 0;
     std::string id;
     long added = 0;
     for (cTask task : tasks) {
@@ -89,7 +89,7 @@ long cTasks::AddTasks(const std::vector<cTask>& tasks, std::vector<std::string>&
 }
 
 void cTasks::Edit() {
-    table_.ReloadIfChangedOnDisk();
+    if (!table_.ReloadIfChangedOnDisk()) return;
     const long index = FindTaskIndex(&gCurrentTask);
     if (index < 0) {
         glbCmd.TaskAdd(Today());
@@ -106,7 +106,10 @@ void cTasks::Edit() {
 void cTasks::Delete(long& index) {
     platform().SetBusyCursor(true);
     if (index == 0) {
-        table_.ReloadIfChangedOnDisk();
+        if (!table_.ReloadIfChangedOnDisk()) {
+            platform().SetBusyCursor(false);
+            return;
+        }
         index = FindTaskIndex(&gCurrentTask);
         // The busy cursor stays on here, as it always has.
         if (index < 1) {
@@ -148,7 +151,7 @@ void cTasks::filter(const std::string& text) {
 }
 
 void cTasks::ReIndex() {
-    table_.ReloadIfChangedOnDisk();
+    if (!table_.ReloadIfChangedOnDisk()) return;
     table_.Sort();
     if (Count() > 9998) {
         const std::string text = "This will not work for more than 10,000 tasks - contact author for fix";

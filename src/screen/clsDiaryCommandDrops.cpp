@@ -87,6 +87,7 @@ void clsDiaryCommand::MoveCurrentEventToTask() {
 
 void clsDiaryCommand::TaskAddFromDroppedFiles(const DataObject& data) {
     if (form_ == nullptr) return;
+    glbConfig.dialogCancelled = false;  // a dialog cancelled before does not refuse the drop
     if (data.HasFiles()) {
         for (const std::string& file : data.Files) glbTasks.CreateTaskAndAddFromFile(file);
     } else if (data.HasText()) {
@@ -105,6 +106,7 @@ void clsDiaryCommand::TaskAddFromDroppedFiles(const DataObject& data) {
 
 void clsDiaryCommand::NoteAddFromDroppedFiles(const DataObject& data) {
     if (form_ == nullptr) return;
+    glbConfig.dialogCancelled = false;  // a dialog cancelled before does not refuse the drop
     if (data.HasFiles()) {
         for (const std::string& file : data.Files) glbNotes.CreateNoteAndADDFromFile(file, false);
     } else if (data.HasText()) {

@@ -1,8 +1,11 @@
 // The scratch pad as a user keeps it: tabs added, typed into and removed, the
 // program started again, read back from scratch.ini and the tabs' files.
+#include <functional>
+
 #include "ProgramFixture.h"
 #include "accessories/ScratchTabs.h"
 #include "accessories/frmClipboard.h"
+#include "foundation/FileSystem.h"
 #include "foundation/VbDate.h"
 #include "screen/clsDiaryCommand.h"
 
@@ -64,6 +67,17 @@ TEST_F(ScratchPadTest, TabsLiveUntilRemovedWithoutASavingStep) {
     EXPECT_EQ(pad.tabClip.Tabs(1).Caption(), "Scratch Pad 1");
     EXPECT_EQ(pad.txtClip.Text(), kWelcome) << "a first start";
     EXPECT_FALSE(pad.mnuClipSendToVimmer.Visible);
+    // The text's menu is the note editor's; loading and saving a file do nothing there.
+    std::vector<std::string> entries;
+    for (const Menu* entry : pad.popupClip.Items()) entries.push_back(entry->Caption());
+    EXPECT_EQ(entries, (std::vector<std::string>{"Undo", "Cut", "Copy", "Paste", "Select All", "Select All and Copy",
+                                                 "Send Text back to Vimmer Window", "Get Vimmer Window contents",
+                                                 "Get text for current event from Diary", "Clear this Clipboard",
+                                                 "Load a Text File", "Save this Clipboard as a File"}));
+    pad.mnuClipLoad.UserClick();
+    pad.mnuClipSave.UserClick();
+    EXPECT_EQ(pad.txtClip.Text(), kWelcome);
+    EXPECT_TRUE(platform_.Transcript().empty());
 
     // Three tabs, each typed into as it is added; a comma cannot end a tab's name early.
     for (const char* name : {"Shopping", "Work, ideas", "Books"}) {
@@ -134,4 +148,31 @@ TEST_F(ScratchPadTest, ALockedTabIsGreyAndRefusesTypingAndEveryModeIsSavedAsFree
     EXPECT_EQ(File("scratch.ini"),
               kHeader + "Notes,notes.tmp,FREE,\r\nLog,log.tmp,FREE,\r\n" + Line("New", "~tab3.tmp"));
     EXPECT_EQ(File("notes.tmp"), "Keep this");
+}
+
+TEST_F(ScratchPadTest, ATextThatCantBeWrittenKeepsItsTabAndTheWindow) {
+    WriteBytes(Stored("scratch.ini"), "[TabDefinitions]\r\nStuck,stuck.tmp,FREE,\r\nOther,other.tmp,FREE,\r\n");
+    MakeFolder(Stored("stuck.tmp"));  // where the tab's file should be
+    WriteBytes(Stored("other.tmp"), "Other text");
+    frmClipboard& pad = Open();
+    Type(pad, "Typed");
+    const std::string refused = "Error in frmClipboard saving stuck.tmp Error=75 = Path/File access error";
+    // Each way of leaving the tab is told of the failure and leaves the text where it is.
+    const struct {
+        const char* what;
+        std::function<void()> leave;
+    } cases[] = {
+        {"another tab chosen", [&] { Choose(pad, 2); }},
+        {"the tab removed", [&] { pad.popupTabsRemove_Click(); }},
+        {"the window closed", [&] { EXPECT_FALSE(pad.UserClose()); }},
+    };
+    for (const auto& c : cases) {
+        platform_.ClearTranscript();
+        c.leave();
+        EXPECT_EQ(platform_.MessageTexts(), std::vector<std::string>{refused}) << c.what;
+        EXPECT_EQ(pad.tabClip.SelectedItem()->Caption(), "Stuck") << c.what;
+        EXPECT_EQ(pad.tabClip.Tabs.Count(), 2) << c.what;
+        EXPECT_EQ(pad.txtClip.Text(), "Typed") << c.what;
+    }
+    EXPECT_EQ(File("other.tmp"), "Other text");
 }

@@ -140,14 +140,21 @@ TEST_F(NotesTest, EditingCountsAndStoresTheLine) {
     glbNotes.Edit();
     EXPECT_EQ(ReadBytes(notesFile), before);
 
-    // A note the list does not hold: said, then the editor opens on a new note.
-    gCurrentNote.title = "Not in the list";
-    QueueEditor(
-        "frmEditNote", [] {}, true);
-    glbNotes.Edit();
-    EXPECT_EQ(platform_.MessageTexts(), std::vector<std::string>{"No note selected"});
-    EXPECT_EQ(platform_.FormsShown().size(), 3U);
-    EXPECT_EQ(ReadBytes(notesFile), before);
+    // A note the list does not hold, or none at all (the list's blank entry is no
+    // note): said, then the editor opens on a new note, and the file stays.
+    cNote notInTheList = gCurrentNote;
+    notInTheList.title = "Not in the list";
+    size_t forms = platform_.FormsShown().size();
+    for (const cNote& note : {notInTheList, cNote()}) {
+        platform_.ClearTranscript();
+        gCurrentNote = note;
+        QueueEditor(
+            "frmEditNote", [] { gCurrentNote.Add("typed"); }, true);
+        glbNotes.Edit();
+        EXPECT_EQ(platform_.MessageTexts(), std::vector<std::string>{"No note selected"}) << note.title;
+        EXPECT_EQ(platform_.FormsShown().size(), ++forms);
+        EXPECT_EQ(ReadBytes(notesFile), before);
+    }
 }
 
 TEST_F(NotesTest, ADeletedNoteKeepsItsBodyAndARebuildBringsItBack) {
@@ -164,6 +171,7 @@ TEST_F(NotesTest, ADeletedNoteKeepsItsBodyAndARebuildBringsItBack) {
     platform_.QueueMsgBoxAnswer(vbNo);
     glbNotes.RecreateNotesListFromNotesFolder(true);
     EXPECT_EQ(glbNotes.Count(), 2);
+    glbConfig.dialogCancelled = true;  // as a dialog closed with its close box leaves it
     platform_.QueueMsgBoxAnswer(vbYes);
     glbNotes.RecreateNotesListFromNotesFolder(true);
     EXPECT_EQ(platform_.MessageTexts().back(), "Finished Adding 3 notes from the files in " + DataPath() + "notes\\");

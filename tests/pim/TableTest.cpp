@@ -123,7 +123,7 @@ TEST_F(TableTest, AFileChangedOnDiskIsLoadedAgain) {
     EXPECT_FALSE(table.FileChangedOnDisk());
     WriteLines("table.dat", {"a", "b", "added by hand"});
     ASSERT_TRUE(table.FileChangedOnDisk());
-    table.ReloadIfChangedOnDisk();
+    EXPECT_TRUE(table.ReloadIfChangedOnDisk());
     EXPECT_EQ(table.Count(), 3);
     table.Add("c");
     EXPECT_EQ(ReadBytes(Data("table.dat")), "a\r\nadded by hand\r\nb\r\nc\r\n");

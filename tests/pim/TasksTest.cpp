@@ -1,10 +1,13 @@
 // Tasks: the line of one task, and the task list over its file: a hand-written file
 // saved back, adding, editing, completing, deleting, numbering, search, the list and
 // the HTML page.
+#include <filesystem>
+#include <functional>
 #include <tuple>
 
 #include "PimFixture.h"
 #include "controls/ListView.h"
+#include "pim/cNotes.h"
 #include "pim/cTasks.h"
 #include "screen/clsDiaryScreen.h"
 #include "screen/frmClientDiaryMain.h"
@@ -190,6 +193,67 @@ TEST_F(TasksTest, ReIndexNumbersEveryTaskByItsDateAndLine) {
     const cTask task = Task("After the numbering");
     glbTasks.Add(list, &task);
     EXPECT_EQ(gCurrentTask.ID, "D200406050005");
+}
+
+TEST_F(TasksTest, AChangeStopsWhenTheChangedFileCantBeReadAndTheFileIsKept) {
+    LoadGoldenTasks();
+    const std::string notesFile = Data("allnotes.dat");
+    glbNotes.init(notesFile);
+    const cTask task = Task("Not added");
+    cNote note;
+    note.title = "Not added";
+    const struct {
+        const char* what;
+        std::string file;
+        std::function<void()> change;
+    } cases[] = {
+        {"a task added", gStrTasksFile, [&] { glbTasks.Add(list, &task); }},
+        {"tasks imported", gStrTasksFile,
+         [&] {
+             std::vector<std::string> notAdded;
+             EXPECT_EQ(glbTasks.AddTasks({task}, notAdded), 0);
+         }},
+        {"a task edited", gStrTasksFile, [] { glbTasks.Edit(); }},
+        {"a task deleted", gStrTasksFile,
+         [] {
+             long index = 0;
+             glbTasks.Delete(index);
+         }},
+        {"the tasks numbered", gStrTasksFile, [] { glbTasks.ReIndex(); }},
+        {"a note added", notesFile, [&] { glbNotes.Add(list, &note); }},
+        {"a note edited", notesFile, [] { glbNotes.Edit(); }},
+        {"a note deleted", notesFile,
+         [] {
+             long index = 0;
+             glbNotes.Delete(index);
+         }},
+    };
+    for (const auto& c : cases) {
+        gCurrentTask = glbTasks.FindByID(kDone);
+        gCurrentNote = glbNotes.FindByID("N200406020001");
+        // Another program has the file changed, and reading it now fails.
+        const std::string before = ReadBytes(c.file);
+        const std::filesystem::path native = ToNativePath(c.file);
+        std::filesystem::remove(native);
+        std::filesystem::create_symlink("/proc/self/mem", native);
+        platform_.ClearTranscript();
+        c.change();
+        EXPECT_EQ(platform_.MessageTexts(),
+                  std::vector<std::string>{"Error in cData.LoadFromFile Error=75 = Path/File access error"})
+            << c.what;
+        EXPECT_TRUE(platform_.FormsShown().empty()) << c.what;
+        EXPECT_FALSE(platform_.BusyCursor()) << c.what;
+        EXPECT_EQ(glbTasks.Count() * 10 + glbNotes.Count(), 43) << c.what << ": the tables as they were";
+        std::filesystem::remove(native);
+        WriteBytes(c.file, before);
+    }
+    // Once the file reads again, the next change keeps what was added to it meanwhile.
+    const std::string byHand = Closed("N200406050009|20040605||1200|30||||||||||Added by hand|");
+    WriteBytes(gStrTasksFile, Golden("data/D_tasks.dat") + byHand + "\r\n");
+    const cTask added = Task("Added now");
+    glbTasks.Add(list, &added);
+    EXPECT_EQ(ReadBytes(gStrTasksFile), Golden("data/D_tasks.dat") + byHand + "\r\n" +
+                                            Closed("N200406050010|20040605||1000|60||||||||||Added now|\r\n"));
 }
 
 TEST_F(TasksTest, TheHtmlListHoldsTheUnfinishedTasks) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "MainScreenFixture.h"
+#include "config/clsConfigDiary.h"
 #include "controls/DataObject.h"
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
@@ -111,6 +112,7 @@ TEST_F(DragDropTest, TextFromAnotherProgramBecomesAnEventATaskOrANote) {
     const std::string longText =
         "Book the venue for the summer party and ask the caterers for three quotes\r\n"
         "before the end of the month";
+    glbConfig.dialogCancelled = true;  // a dialog closed before with its close box
     dropText(Form().lvCat, longText);  // the task list beside the calendar
     EXPECT_EQ(Data("D_tasks.dat"),
               kTask + closed("N200406050001|20040605||0930|60||||||||||" + Replace(longText, "\r\n", "  ") + "|\r\n"));
@@ -118,6 +120,7 @@ TEST_F(DragDropTest, TextFromAnotherProgramBecomesAnEventATaskOrANote) {
         << "80 characters, the line break as blanks";
 
     glbScreen.SwitchMode("NOTE");
+    glbConfig.dialogCancelled = true;
     dropText(Form().lvCat, "Plans: 1/2 of the garden\r\nfor vegetables");
     EXPECT_EQ(Data("allnotes.dat"), closed("N200406050001|20040605|20040605||||Plans 12 of the garden  for "
                                            "vegetables.txt|Plans: 1/2 of the garden  for vegetables|\r\n"));
@@ -136,7 +139,8 @@ TEST_F(DragDropTest, FilesFromAnotherProgramDroppedOnTheTaskListBecomeATaskEach)
     glbScreen.SwitchMode("TASK");
     DataObject data;
     data.Files = {Stored("Quotes\\venue.doc"), Stored("Quotes\\Summer party.xls")};
-    data.Text = "venue.doc";  // the text beside the files makes no task of its own
+    data.Text = "venue.doc";           // the text beside the files makes no task of its own
+    glbConfig.dialogCancelled = true;  // a dialog closed before with its close box
     Form().lvCat.UserOLEDragDrop(data);
     const std::string folder = Stored("Quotes") + "\\";
     EXPECT_EQ(Data("D_tasks.dat"), kTask +

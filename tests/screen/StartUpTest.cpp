@@ -7,6 +7,7 @@
 #include "MainScreenFixture.h"
 #include "config/clsConfigDiary.h"
 #include "controls/FlexGrid.h"
+#include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbString.h"
 #include "pim/cNotes.h"
@@ -88,4 +89,18 @@ TEST_F(StartUpTest, ThisMonthIsLoadedOnceAndTheWindowShowsWithItsFirstViewDrawn)
                          "LoadDiaryData loaded 1 records from " + Stored("data\\D200406.dat")),
               1);
     EXPECT_EQ(platform_.FormsShown(), std::vector<std::string>{"frmClientDiaryMain"});
+}
+
+TEST_F(StartUpTest, ADataFolderWithoutItsBackslashIsCompletedBeforeTheMonthIsRead) {
+    // A settings file edited by hand: the data folder without its closing "\".
+    WriteBytes(Stored("data\\orbidex.ini"),
+               "[general]\r\nloglevel=3\r\n[diary]\r\ndataPath=" + Stored("data") + "\r\n");
+    WriteBytes(Stored("data\\D200406.dat"), test::EventLine("D200406050001", "20040605", "0900", "Dentist") + "\r\n");
+    StartProgram();
+    std::vector<std::string> loads;
+    for (const std::string& message : LogMessages())
+        if (StartsWith(message, "LoadDiaryData")) loads.push_back(message);
+    EXPECT_EQ(loads, std::vector<std::string>{"LoadDiaryData loaded 1 records from " + Stored("data\\D200406.dat")});
+    EXPECT_FALSE(FileExists(Stored("dataD200406.dat"))) << "no month file beside the data folder";
+    EXPECT_EQ(gStrDataPath, Stored("data\\"));
 }
