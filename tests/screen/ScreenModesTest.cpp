@@ -203,6 +203,9 @@ TEST_F(ScreenModesTest, TheLocalKindHasNoStaffEntries) {
     Button& add = Form().Toolbar1.Buttons("new");
     ASSERT_EQ(add.ButtonMenuCount(), 3);
     EXPECT_EQ(add.ButtonMenus(3)->Text(), "Note");
+    // Nor a menu entry that leads to the staff planner or books a meeting.
+    EXPECT_FALSE(Form().mnuAppPlanMeeting.Visible);
+    EXPECT_FALSE(Form().mnuViewMode[5].Visible);
 }
 
 TEST_F(ScreenModesTest, TheClientKindHasTheStaffEntriesAndShowsTheServerState) {
@@ -216,6 +219,9 @@ TEST_F(ScreenModesTest, TheClientKindHasTheStaffEntriesAndShowsTheServerState) {
     Button& add = Form().Toolbar1.Buttons("new");
     ASSERT_EQ(add.ButtonMenuCount(), 4);
     EXPECT_EQ(add.ButtonMenus(4)->Text(), "Meeting");
+    EXPECT_TRUE(Form().mnuAppPlanMeeting.Visible);
+    EXPECT_EQ(Form().mnuViewMode[5].Caption(), "&Staff Planner");
+    EXPECT_TRUE(Form().mnuViewMode[5].Visible);
     // No server has answered: the server button and the status bar say so.
     EXPECT_EQ(Form().Toolbar1.Buttons("refresh").Image(), "disconnect");
     EXPECT_EQ(Panel(1), "Running in Local Mode (Server not responding)");
