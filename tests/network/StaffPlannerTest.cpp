@@ -7,6 +7,7 @@
 #include "NetworkFixture.h"
 #include "TimeSlots.h"
 #include "config/clsConfigDiary.h"
+#include "dialogs/frmEditEvent.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -207,4 +208,29 @@ TEST_F(StaffPlannerTest, AMeetingBookedByFredReachesTheOthersAndShowsInThePlanne
     As("fred");
     glbCmd.ToolbarClicked("refresh");
     for (long row = 2; row <= 4; ++row) EXPECT_NE(Grid().TextMatrix(row, 4).find("Plan the move"), std::string::npos);
+}
+
+TEST_F(StaffPlannerTest, AnEventAddedInThePlannerTakesTheChosenDayAndSlot) {
+    glbConfig.DayWeekMonth = 7;
+    MainForm().MonthView1.Value = DateSerial(2004, 6, 7);
+    glbScreen.SwitchMode("STAFF");
+    platform_.SetNow(DateSerial(2004, 6, 5) + TimeSerial(14, 45, 0));
+    struct Case {
+        long col;
+        const char* when;
+    };
+    // Wednesday's 10:00 (the week runs from Monday 7 June), Monday's 9:30, and the
+    // totals column: the planner's first day at the present time.
+    const Case cases[] = {{21, "20040609 1000"}, {2, "20040607 0930"}, {64, "20040607 1445"}};
+    for (const Case& c : cases) {
+        Grid().UserClickCell(2, c.col);
+        std::string shown;
+        platform_.QueueFormScript("frmEditEvent", [&shown](Form& f) {
+            auto& form = static_cast<frmEditEvent&>(f);
+            shown = FormatDate(form.dtPickDate.Value, "yyyymmdd") + " " + FormatDate(form.dtPickTime.Value, "hhmm");
+            form.cmdCancel.UserClick();
+        });
+        MainForm().mnuAppAdd.UserClick();
+        EXPECT_EQ(shown, c.when) << c.col;
+    }
 }
