@@ -71,8 +71,10 @@ void cDiaryComms::GetStaffEvents(VbDate date, bool& force) {
     const std::string dateStart = FormatDate(date - kDaysBefore, "yyyymmdd");
     const std::string dateEnd = FormatDate(date + kDaysAfter, "yyyymmdd");
     const std::string month = FormatDate(date, "yyyymm");
-    if (month != staffMonth_) force = true;
+    // The local copy holds only the users of the last request.
+    if (month != staffMonth_ || glbTickedUsers != staffUsers_) force = true;
     staffMonth_ = month;
+    staffUsers_ = glbTickedUsers;
     staffServerSilent_ = false;
 
     platform().SetBusyCursor(true);

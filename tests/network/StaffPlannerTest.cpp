@@ -155,6 +155,17 @@ TEST_F(StaffPlannerTest, TheTicksChooseTheUsersAndAnUntickedUserInTheResultsIsSk
     EXPECT_EQ(Grid().TextMatrix(2, 0), "fred");
     EXPECT_EQ(MainForm().lblUsers.Caption(), "2 of 3 Staff displayed");
 
+    // Back from the calendar everybody is ticked again, and the server is asked for
+    // them all: ann's row is not left empty.
+    const long asked = Requests();
+    glbScreen.SwitchMode("CALENDAR");
+    glbScreen.SwitchMode("STAFF");
+    EXPECT_EQ(glbTickedUsers, "ann, fred, mary, ");
+    EXPECT_EQ(Requests(), asked + 1);
+    EXPECT_EQ(Grid().TextMatrix(2, 0), "ann");
+    EXPECT_EQ(StaffCellId(2, 1), "D200406050001");
+    users.UserCheckItem(*users.FindItem("ann"), false);
+
     // An answer that still holds ann: she is logged and left out.
     WriteBytes(Data("fred") + "RESULTS.TXT", "; results of user.ann diary\\D200406.dat_NET\r\n" +
                                                  EventLine("D200406050001", "20040605", "0900", "") + "\r\n");
