@@ -253,6 +253,20 @@ std::string StaffCellId(long row, long col) {
     return id != nullptr ? *id : "";
 }
 
+std::string StaffChosenSlot(const FlexGrid& grid) {
+    const clsTimeSlots& slots = CalendarTimeSlots();
+    const long perDay = slots.totSlots + 1;
+    const long col = grid.Col;
+    if (col >= 1 && col < grid.Cols - 1 && col % perDay != 0) return slots.hhmmGet(col % perDay);
+    return "";
+}
+
+VbDate StaffChosenDay(const FlexGrid& grid, VbDate firstDay) {
+    const long perDay = CalendarTimeSlots().totSlots + 1;
+    const long offset = grid.Col >= 1 && grid.Col < grid.Cols - 1 ? grid.Col / perDay : 0;
+    return DateOnly(firstDay) + static_cast<double>(offset);
+}
+
 std::vector<std::string> TickedStaff(const ListView& userList) {
     std::vector<std::string> staff;
     for (const auto& item : userList.ListItems.Rows())

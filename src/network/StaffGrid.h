@@ -22,6 +22,11 @@ extern std::vector<std::vector<std::string>> glbStaffCellIds;
 /// The identifier kept for a cell; "" for none.
 std::string StaffCellId(long row, long col);
 
+/// The time ("hhmm") of the slot of the grid's chosen column; "" outside the slots.
+std::string StaffChosenSlot(const FlexGrid& grid);
+/// The day of the grid's chosen column in a planner whose first day is `firstDay`.
+VbDate StaffChosenDay(const FlexGrid& grid, VbDate firstDay);
+
 /// The names of the ticked rows of the list (their tags), in order, at most 99.
 std::vector<std::string> TickedStaff(const ListView& userList);
 

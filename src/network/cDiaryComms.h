@@ -27,8 +27,8 @@ public:
     /// Brings the events of the ticked users from 30 days before `date` to 120 days
     /// after it into the local RESULTS.TXT (the copy before it kept as
     /// RESULTS_OLD.TXT).  Within the month of the last request the local copy
-    /// serves, unless `force`; a new month forces a request.  A server that does
-    /// not answer leaves the copy as it was.
+    /// serves, unless `force`; a new month or other ticked users force a request.
+    /// A server that does not answer leaves the copy as it was.
     void GetStaffEvents(VbDate date, bool& force);
     /// Whether the last GetStaffEvents asked the server in vain.
     bool StaffServerSilent() const { return staffServerSilent_; }
@@ -63,6 +63,7 @@ public:
 
 private:
     std::string staffMonth_;          ///< the month (yyyymm) of the last GetStaffEvents
+    std::string staffUsers_;          ///< the users ticked at the last GetStaffEvents
     bool staffServerSilent_ = false;  ///< its request went unanswered
 };
 

@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "config/clsConfigDiary.h"
-#include "diary/CalendarView.h"
 #include "foundation/FileHelpers.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -12,6 +11,7 @@
 #include "foundation/VbString.h"
 #include "foundation/cLog.h"
 #include "network/ServerFolder.h"
+#include "network/StaffGrid.h"
 #include "network/cComms.h"
 #include "network/cDiaryComms.h"
 #include "network/frmBookMeeting.h"
@@ -65,30 +65,16 @@ bool takeLateAnswer(const std::string& networkResults, const std::string& localO
     return true;
 }
 
-// The time of the chosen cell: the slot of its column in the staff grid, or the
-// row's data (the time as digits) in a grid of time rows.
-std::string chosenTime(const FlexGrid& grid) {
-    const clsTimeSlots& slots = CalendarTimeSlots();
-    const long perDay = slots.totSlots + 1;
-    const long col = grid.Col;
-    if (col >= 1 && col < grid.Cols - 1 && col % perDay != 0) return slots.hhmmGet(col % perDay);
-    return Trim(CStr(grid.RowData(grid.Row)));
-}
-
-// The day of the chosen column in a planner of several days.
-long chosenDayOffset(const FlexGrid& grid) {
-    const long perDay = CalendarTimeSlots().totSlots + 1;
-    return grid.Col >= 1 && grid.Col < grid.Cols - 1 ? grid.Col / perDay : 0;
-}
-
 }  // namespace
 
 void cDiaryComms::GetStaffEvents(VbDate date, bool& force) {
     const std::string dateStart = FormatDate(date - kDaysBefore, "yyyymmdd");
     const std::string dateEnd = FormatDate(date + kDaysAfter, "yyyymmdd");
     const std::string month = FormatDate(date, "yyyymm");
-    if (month != staffMonth_) force = true;
+    // The local copy holds only the users of the last request.
+    if (month != staffMonth_ || glbTickedUsers != staffUsers_) force = true;
     staffMonth_ = month;
+    staffUsers_ = glbTickedUsers;
     staffServerSilent_ = false;
 
     platform().SetBusyCursor(true);
@@ -129,10 +115,12 @@ void cDiaryComms::GetStaffEvents(VbDate date, bool& force) {
 
 void cDiaryComms::BookMeeting(frmClientDiaryMain& mainWindow) {
     glbTickedUsers = glbComms.GetTickedListOfUsers(mainWindow.lvUsers);
-    std::string time = chosenTime(mainWindow.gridDays);
+    const FlexGrid& grid = mainWindow.gridDays;
+    // Outside a slot the row's data is read as the time, as in the calendar's grid.
+    std::string time = StaffChosenSlot(grid);
+    if (time.empty()) time = Trim(CStr(grid.RowData(grid.Row)));
     if (Len(time) == 3) time = "0" + time;
-    const VbDate day =
-        DateOnly(mainWindow.MonthView1.Value) + static_cast<double>(chosenDayOffset(mainWindow.gridDays));
+    const VbDate day = StaffChosenDay(grid, mainWindow.MonthView1.Value);
     const VbDate at = day + TimeSerial(static_cast<int>(Val(Left(time, 2))), static_cast<int>(Val(Right(time, 2))), 0);
 
     auto form = std::make_unique<frmBookMeeting>();

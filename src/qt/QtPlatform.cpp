@@ -263,7 +263,9 @@ bool QtPlatform::RunAndWait(const std::string& commandLine) {
     QProcess process;
     process.start(args.takeFirst(), args);
     if (!process.waitForStarted()) return false;
-    while (!process.waitForFinished(50)) DoEvents();
+    // The end may be handled among the events, after which waitForFinished only
+    // says false: the process's state says when the wait is over.
+    while (process.state() != QProcess::NotRunning && !process.waitForFinished(50)) DoEvents();
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include "diary/cDiaryRecords.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
+#include "network/StaffGrid.h"
 #include "platform/Platform.h"
 #include "screen/clsDiaryCommand.h"
 #include "screen/clsDiaryScreen.h"
@@ -27,10 +28,14 @@ void clsDiaryCommand::EventAdd(VbDate date, const std::string& time) {
     if (form_ == nullptr) return;
     timerOn(false);
     const FlexGrid& grid = form_->gridDays;
-    const std::string slotTime = time.empty() ? CalendarTimeSlots().hhmmGet(grid.Row) : time;
+    // The staff planner's grid holds users and slots: the event goes on its chosen
+    // day, at its chosen slot (at the present time outside the slots).
+    const bool planner = glbScreen.Mode() == "STAFF";
+    std::string slotTime = time;
+    if (slotTime.empty()) slotTime = planner ? StaffChosenSlot(grid) : CalendarTimeSlots().hhmmGet(grid.Row);
     // An unset date shows by its year, so a real date of another year is replaced too.
     if (Year(date) != Year(Now())) {
-        date = selectedCellDate();
+        date = planner ? StaffChosenDay(grid, form_->MonthView1.Value) : selectedCellDate();
         if (date == 0) date = form_->MonthView1.Value;
     }
     glbEvents.DiaryEventAdd(date, slotTime, "");

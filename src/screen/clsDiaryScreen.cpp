@@ -34,6 +34,10 @@ void clsDiaryScreen::drawForm(frmClientDiaryMain& form) {
     form_ = &form;
     drawTree();
     drawShortcuts();
+    // The program that runs alone has no staff planner and no one to meet.
+    const bool hasStaff = NETWORK_STRING != "LOCAL";
+    form.mnuAppPlanMeeting.Visible = hasStaff;
+    form.mnuViewMode[5].Visible = hasStaff;  // "&Staff Planner"
     CreateToolbarButtons(glbConfig.ShowToolbarText == "1");
     drawStatusBar();
     glbConfig.GetFormSettings(form, gStrIniFile, true);

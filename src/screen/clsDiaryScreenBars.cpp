@@ -166,11 +166,8 @@ void clsDiaryScreen::PressViewButton() {
 
 void clsDiaryScreen::toolbarForMode(const std::string& mode) {
     Toolbar& bar = form_->Toolbar1;
-    if (mode == "HOME") {
-        for (long i = 1; i <= bar.Buttons.Count(); ++i) bar.Buttons.Item(i)->Visible = false;
-        bar.Buttons("new").Visible = true;
-        bar.Buttons("new").Image = "calendar";
-    } else if (mode == "CALENDAR") {
+    // The overview keeps the bar as it was remade: every button shows.
+    if (mode == "CALENDAR") {
         setButtons(bar, {"days", "week", "month", "grid", "list", "today"}, true);
         setButtons(bar, {"showall", "current", "year", "refresh"}, false);
         PressViewButton();

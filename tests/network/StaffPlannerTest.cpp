@@ -7,6 +7,7 @@
 #include "NetworkFixture.h"
 #include "TimeSlots.h"
 #include "config/clsConfigDiary.h"
+#include "dialogs/frmEditEvent.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
@@ -154,6 +155,17 @@ TEST_F(StaffPlannerTest, TheTicksChooseTheUsersAndAnUntickedUserInTheResultsIsSk
     EXPECT_EQ(Grid().TextMatrix(2, 0), "fred");
     EXPECT_EQ(MainForm().lblUsers.Caption(), "2 of 3 Staff displayed");
 
+    // Back from the calendar everybody is ticked again, and the server is asked for
+    // them all: ann's row is not left empty.
+    const long asked = Requests();
+    glbScreen.SwitchMode("CALENDAR");
+    glbScreen.SwitchMode("STAFF");
+    EXPECT_EQ(glbTickedUsers, "ann, fred, mary, ");
+    EXPECT_EQ(Requests(), asked + 1);
+    EXPECT_EQ(Grid().TextMatrix(2, 0), "ann");
+    EXPECT_EQ(StaffCellId(2, 1), "D200406050001");
+    users.UserCheckItem(*users.FindItem("ann"), false);
+
     // An answer that still holds ann: she is logged and left out.
     WriteBytes(Data("fred") + "RESULTS.TXT", "; results of user.ann diary\\D200406.dat_NET\r\n" +
                                                  EventLine("D200406050001", "20040605", "0900", "") + "\r\n");
@@ -207,4 +219,29 @@ TEST_F(StaffPlannerTest, AMeetingBookedByFredReachesTheOthersAndShowsInThePlanne
     As("fred");
     glbCmd.ToolbarClicked("refresh");
     for (long row = 2; row <= 4; ++row) EXPECT_NE(Grid().TextMatrix(row, 4).find("Plan the move"), std::string::npos);
+}
+
+TEST_F(StaffPlannerTest, AnEventAddedInThePlannerTakesTheChosenDayAndSlot) {
+    glbConfig.DayWeekMonth = 7;
+    MainForm().MonthView1.Value = DateSerial(2004, 6, 7);
+    glbScreen.SwitchMode("STAFF");
+    platform_.SetNow(DateSerial(2004, 6, 5) + TimeSerial(14, 45, 0));
+    struct Case {
+        long col;
+        const char* when;
+    };
+    // Wednesday's 10:00 (the week runs from Monday 7 June), Monday's 9:30, and the
+    // totals column: the planner's first day at the present time.
+    const Case cases[] = {{21, "20040609 1000"}, {2, "20040607 0930"}, {64, "20040607 1445"}};
+    for (const Case& c : cases) {
+        Grid().UserClickCell(2, c.col);
+        std::string shown;
+        platform_.QueueFormScript("frmEditEvent", [&shown](Form& f) {
+            auto& form = static_cast<frmEditEvent&>(f);
+            shown = FormatDate(form.dtPickDate.Value, "yyyymmdd") + " " + FormatDate(form.dtPickTime.Value, "hhmm");
+            form.cmdCancel.UserClick();
+        });
+        MainForm().mnuAppAdd.UserClick();
+        EXPECT_EQ(shown, c.when) << c.col;
+    }
 }

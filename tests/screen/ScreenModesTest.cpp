@@ -165,9 +165,12 @@ TEST_F(ScreenModesTest, TheToolBarFollowsTheMode) {
     EXPECT_EQ(bar.Buttons("month").Value(), tbrPressed);
     EXPECT_EQ(bar.Buttons("new").Image(), "staff");
 
+    // The overview has Print and Options too: the bar shows whole, `new` with its own image.
     glbScreen.SwitchMode("HOME");
-    EXPECT_EQ(visibleButtons(bar), (std::vector<std::string>{"new"}));
-    EXPECT_EQ(bar.Buttons("new").Image(), "calendar");
+    EXPECT_EQ(visibleButtons(bar),
+              (std::vector<std::string>{"new", "Find", "delete", "print", "today", "days", "week", "month", "year",
+                                        "showall", "current", "refresh", "grid", "list", "properties"}));
+    EXPECT_EQ(bar.Buttons("new").Image(), "new");
 }
 
 TEST_F(ScreenModesTest, TheLocalKindHasNoStaffEntries) {
@@ -200,6 +203,9 @@ TEST_F(ScreenModesTest, TheLocalKindHasNoStaffEntries) {
     Button& add = Form().Toolbar1.Buttons("new");
     ASSERT_EQ(add.ButtonMenuCount(), 3);
     EXPECT_EQ(add.ButtonMenus(3)->Text(), "Note");
+    // Nor a menu entry that leads to the staff planner or books a meeting.
+    EXPECT_FALSE(Form().mnuAppPlanMeeting.Visible);
+    EXPECT_FALSE(Form().mnuViewMode[5].Visible);
 }
 
 TEST_F(ScreenModesTest, TheClientKindHasTheStaffEntriesAndShowsTheServerState) {
@@ -213,6 +219,9 @@ TEST_F(ScreenModesTest, TheClientKindHasTheStaffEntriesAndShowsTheServerState) {
     Button& add = Form().Toolbar1.Buttons("new");
     ASSERT_EQ(add.ButtonMenuCount(), 4);
     EXPECT_EQ(add.ButtonMenus(4)->Text(), "Meeting");
+    EXPECT_TRUE(Form().mnuAppPlanMeeting.Visible);
+    EXPECT_EQ(Form().mnuViewMode[5].Caption(), "&Staff Planner");
+    EXPECT_TRUE(Form().mnuViewMode[5].Visible);
     // No server has answered: the server button and the status bar say so.
     EXPECT_EQ(Form().Toolbar1.Buttons("refresh").Image(), "disconnect");
     EXPECT_EQ(Panel(1), "Running in Local Mode (Server not responding)");
