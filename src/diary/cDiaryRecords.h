@@ -126,6 +126,9 @@ public:
     long SelectDiaryRecordFromIDInMonth(const std::string& id, const std::string& yyyymm) const;
     /// True when gintcur names a loaded event: not a blank record, not an empty slot.
     bool HasSelectedEvent() const;
+    /// The event the row of a day view's cell names, if it is the event the cell
+    /// shows (on the column's day, with the cell's text); or -1.
+    long SelectDiaryRecordFromDayViewRow(const FlexGrid& grid, long row, long col);
     /// The event of that date and details, at that time if there is one; or -1.
     long SelectDiaryRecordIndex(VbDate date, const std::string& time, const std::string& details);
     /// Appends an event from elsewhere to the file of its month under a new ID,

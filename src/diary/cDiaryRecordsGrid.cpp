@@ -297,6 +297,18 @@ void cDiaryRecords::placeEventInGrid(const cDiaryRecord& event, clsTimeSlots& sl
     if (isPrivate(event)) grid.CellForeColor = vbGrayText;
 }
 
+long cDiaryRecords::SelectDiaryRecordFromDayViewRow(const FlexGrid& grid, long row, long col) {
+    // The row keeps only the identifier's last eight digits and the view gives the
+    // year, so an event entered in another year than its own names some other event.
+    const VbDate day = grid.ColData(col);
+    const long index = SelectDiaryRecordFromID(IdConvertToString(day, grid.RowData(row)));
+    if (index < 0) return -1;
+    const cDiaryRecord& event = events(index);
+    if (event.DateEvent != FormatDate(day, "yyyymmdd") || Trim(event.details) != Trim(grid.TextMatrix(row, col)))
+        return -1;
+    return index;
+}
+
 bool cDiaryRecords::GetEventFromGrid(FlexGrid& grid, MonthView& calendar, StatusBar& statusBar) {
     glbLog.log("GetEventFromGrid BEFORE: gintcur=" + CStr(gintcur), 3);
     const long row = grid.Row;
@@ -314,7 +326,7 @@ bool cDiaryRecords::GetEventFromGrid(FlexGrid& grid, MonthView& calendar, Status
     } else {
         long index = -1;
         // In day view the row names its event; a cell of several events names none.
-        if (dayView) index = SelectDiaryRecordFromID(IdConvertToString(grid.ColData(col), grid.RowData(row)));
+        if (dayView) index = SelectDiaryRecordFromDayViewRow(grid, row, col);
         if (index < 0) index = SelectDiaryRecordIndex(eventsDayOfColumn(grid, col), slotTime, text);
         index = AsCurrentIndex(index);
         if (index >= 0) {
