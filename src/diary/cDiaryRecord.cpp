@@ -246,12 +246,13 @@ void cDiaryRecord::ParseCSVRecord(const std::string& line, const std::vector<std
 }
 
 int cDiaryRecord::IsThisEventIsReminder() const {
-    if (Val(Trim(DateRemind)) == 0 || Val(Trim(TimeRemind)) == 0) return 0;
+    // Despite the name, the answer is about the event's own day and time.
+    if (Val(Trim(DateEvent)) == 0 || Val(Trim(TimeEvent)) == 0) return 0;
     const VbDate now = Now();
     const std::string today = CStr(Year(now)) + twoDigits(Month(now)) + twoDigits(Day(now));
     const std::string timeNow = twoDigits(Hour(now)) + twoDigits(Minute(now));
-    if (DateRemind != today) return today < DateRemind ? 2 : 3;
-    return timeNow <= TimeRemind ? 1 : 3;
+    if (DateEvent != today) return today < DateEvent ? 2 : 3;
+    return timeNow <= TimeEvent ? 1 : 3;
 }
 
 bool cDiaryRecord::IsDiaryEventAfileAccess() const {

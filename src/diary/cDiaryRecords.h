@@ -126,12 +126,16 @@ public:
     long SelectDiaryRecordFromIDInMonth(const std::string& id, const std::string& yyyymm) const;
     /// True when gintcur names a loaded event: not a blank record, not an empty slot.
     bool HasSelectedEvent() const;
+    /// The event the row of a day view's cell names, if it is the event the cell
+    /// shows (on the column's day, with the cell's text); or -1.
+    long SelectDiaryRecordFromDayViewRow(const FlexGrid& grid, long row, long col);
     /// The event of that date and details, at that time if there is one; or -1.
     long SelectDiaryRecordIndex(VbDate date, const std::string& time, const std::string& details);
     /// Appends an event from elsewhere to the file of its month under a new ID,
     /// unless the file in hand already holds it.  The array is untouched unless
-    /// `reload`.
-    void AddDiaryRecord(cDiaryRecord& record, bool reload = false, bool noServerCopy = false);
+    /// `reload`.  True when the event was appended; false when it was there already,
+    /// blank, outside the diary's years, or the file could not be appended to.
+    bool AddDiaryRecord(cDiaryRecord& record, bool reload = false, bool noServerCopy = false);
     /// True when a line of gStrDiaryDataFile holds the three texts as fields.
     bool DoesDiaryRecordAlreadyExist(const std::string& date, const std::string& time, const std::string& details);
     /// Shifts the events above `index` down one place, shortens the array and saves.
@@ -152,9 +156,10 @@ public:
     void DiaryEventEdit();
     /// Opens the reschedule dialog on the selected event and stores the result.
     void DiaryEventReschedule();
-    /// Takes `oldRecord` out of its month and appends `newRecord` to its own month,
-    /// which is then loaded.
-    void DiaryEventMove(const cDiaryRecord& oldRecord, cDiaryRecord newRecord);
+    /// Appends `newRecord` to its own month and then takes `oldRecord` out of its
+    /// month, whose file is rewritten; that month is then loaded.  When the append
+    /// fails the old event stays and its month is loaded.  True when it moved.
+    bool DiaryEventMove(const cDiaryRecord& oldRecord, cDiaryRecord newRecord);
     /// Deletes the selected event, after asking unless `noQuestion`; a meeting may
     /// be cancelled on the other users' diaries.
     void DiaryEventDelete(bool noQuestion);

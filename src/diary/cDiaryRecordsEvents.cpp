@@ -125,13 +125,19 @@ void cDiaryRecords::DiaryEventEdit() {
             glbConfig.dataChanged = false;
         } else {
             // Another month: the event is appended to its new month, then taken out
-            // of the old one, which is loaded again for that.
+            // of the old one, which is loaded again for that.  When the append
+            // fails, the old event stays as it is on disk.
             cDiaryRecord moved;
             moved.AssignRecord(gCurrentEvent);
-            AddDiaryRecord(moved, true);
+            const bool added = AddDiaryRecord(moved, true);
             InitDiary(&MainForm(), "");
             LoadDiaryData(DateFromYYYYMMDD(oldRecord.DateEvent));
             gintcur = AsCurrentIndex(SelectDiaryRecordFromIDInMonth(oldRecord.ID, Left(oldRecord.DateEvent, 6)));
+            if (!added) {
+                glbConfig.dataChanged = false;
+                platform().SetBusyCursor(false);
+                return;
+            }
             DiaryEventDelete(true);
             glbLog.log("moving an event to a different month in this version", 0);
         }
@@ -161,7 +167,10 @@ void cDiaryRecords::DiaryEventReschedule() {
         // Showing another day in the main window leaves no event selected: the
         // event is then moved through the files.
         if (gintcur < 0) {
-            DiaryEventMove(oldRecord, gCurrentEvent);
+            if (!DiaryEventMove(oldRecord, gCurrentEvent)) {
+                platform().SetBusyCursor(false);
+                return;
+            }
         } else {
             events(gintcur).AssignRecord(gCurrentEvent);
             SaveDiaryArray(kFieldDelimiter, nullptr);
@@ -172,20 +181,21 @@ void cDiaryRecords::DiaryEventReschedule() {
     platform().SetBusyCursor(false);
 }
 
-void cDiaryRecords::DiaryEventMove(const cDiaryRecord& oldRecord, cDiaryRecord newRecord) {
-    if (Left(oldRecord.DateEvent, 6) == Left(newRecord.DateEvent, 6))
-        CheckDataFileAndReloadIfNeccesary();
-    else
-        LoadDiaryData(DateFromYYYYMMDD(oldRecord.DateEvent));
+bool cDiaryRecords::DiaryEventMove(const cDiaryRecord& oldRecord, cDiaryRecord newRecord) {
+    // The event is taken from its old place only once it stands in its new one, so
+    // that a move whose append fails leaves it where it was.
+    const VbDate oldDate = DateFromYYYYMMDD(oldRecord.DateEvent);
+    const VbDate newDate = DateFromYYYYMMDD(newRecord.DateEvent);
+    gStrDiaryDataFile = GetDiaryFileNameForDate(newDate);
+    const bool moved = AddDiaryRecord(newRecord);
+    LoadDiaryData(oldDate);
+    if (!moved) return false;
 
     DeleteDiaryEventFromArray(SelectDiaryRecordFromIDInMonth(oldRecord.ID, Left(oldRecord.DateEvent, 6)));
     SaveDiaryArray(kFieldDelimiter, nullptr);
     glbConfig.dataChanged = false;
-
-    const VbDate newDate = DateFromYYYYMMDD(newRecord.DateEvent);
-    gStrDiaryDataFile = GetDiaryFileNameForDate(newDate);
-    AddDiaryRecord(newRecord);
     LoadDiaryData(newDate);
+    return true;
 }
 
 void cDiaryRecords::DiaryEventDelete(bool noQuestion) {

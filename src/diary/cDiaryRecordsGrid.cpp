@@ -24,6 +24,8 @@ namespace {
 constexpr long kCrowdedDay = 50;
 /// The day view's column fills the window; a narrow window still leaves it this wide.
 constexpr long kNarrowestDayColumn = 1500;
+/// Views of more days than this head each column with the day before its events.
+constexpr int kDaysWithShiftedHeading = 10;
 
 /// The heading cell of day `n` (from 1) and what its column holds.
 void layOutDayColumn(FlexGrid& grid, const frmClientDiaryMain& form, VbDate start, int days, int n) {
@@ -45,7 +47,7 @@ void layOutDayColumn(FlexGrid& grid, const frmClientDiaryMain& form, VbDate star
         grid.SetColWidth(8, 1150);
         grid.CellAlignment = flexAlignLeftTop;
         grid.Text = FormatDate(day, "DDD-d");
-    } else if (days > 10) {
+    } else if (days > kDaysWithShiftedHeading) {
         // The heading and the date a blank cell reports are those of the day before
         // the column's events; it has always been so.
         grid.SetColData(col, day - 1);
@@ -187,6 +189,13 @@ bool isPrivate(const cDiaryRecord& event) {
     return event.status == "Private";
 }
 
+/// The day whose events column `col` shows: its data is the day before in views of
+/// many days.
+VbDate eventsDayOfColumn(const FlexGrid& grid, long col) {
+    const VbDate data = grid.ColData(col);
+    return grid.Cols - 2 > kDaysWithShiftedHeading ? data + 1 : data;
+}
+
 }  // namespace
 
 void cDiaryRecords::InitGridForTimedSchedule(clsTimeSlots& slots, FlexGrid& grid, VbDate startDate, int days,
@@ -288,6 +297,18 @@ void cDiaryRecords::placeEventInGrid(const cDiaryRecord& event, clsTimeSlots& sl
     if (isPrivate(event)) grid.CellForeColor = vbGrayText;
 }
 
+long cDiaryRecords::SelectDiaryRecordFromDayViewRow(const FlexGrid& grid, long row, long col) {
+    // The row keeps only the identifier's last eight digits and the view gives the
+    // year, so an event entered in another year than its own names some other event.
+    const VbDate day = grid.ColData(col);
+    const long index = SelectDiaryRecordFromID(IdConvertToString(day, grid.RowData(row)));
+    if (index < 0) return -1;
+    const cDiaryRecord& event = events(index);
+    if (event.DateEvent != FormatDate(day, "yyyymmdd") || Trim(event.details) != Trim(grid.TextMatrix(row, col)))
+        return -1;
+    return index;
+}
+
 bool cDiaryRecords::GetEventFromGrid(FlexGrid& grid, MonthView& calendar, StatusBar& statusBar) {
     glbLog.log("GetEventFromGrid BEFORE: gintcur=" + CStr(gintcur), 3);
     const long row = grid.Row;
@@ -305,8 +326,8 @@ bool cDiaryRecords::GetEventFromGrid(FlexGrid& grid, MonthView& calendar, Status
     } else {
         long index = -1;
         // In day view the row names its event; a cell of several events names none.
-        if (dayView) index = SelectDiaryRecordFromID(IdConvertToString(grid.ColData(col), grid.RowData(row)));
-        if (index < 0) index = SelectDiaryRecordIndex(grid.ColData(col), slotTime, text);
+        if (dayView) index = SelectDiaryRecordFromDayViewRow(grid, row, col);
+        if (index < 0) index = SelectDiaryRecordIndex(eventsDayOfColumn(grid, col), slotTime, text);
         index = AsCurrentIndex(index);
         if (index >= 0) {
             currentGridRow_ = row;

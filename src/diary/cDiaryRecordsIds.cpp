@@ -112,12 +112,12 @@ bool cDiaryRecords::DoesDiaryRecordAlreadyExist(const std::string& date, const s
     return false;
 }
 
-void cDiaryRecords::AddDiaryRecord(cDiaryRecord& record, bool reload, bool noServerCopy) {
+bool cDiaryRecords::AddDiaryRecord(cDiaryRecord& record, bool reload, bool noServerCopy) {
     if (gStrDataPath.empty()) platform().MsgBox("Warning- diary has not been initialised", vbOKOnly, "");
     // The test runs against the file in hand, before the name moves to the record's month.
     if (DoesDiaryRecordAlreadyExist(record.DateEvent, record.TimeEvent, record.details)) {
         glbLog.log("AddDiaryRecord: Cant add " + record.details + "  - already exists", 3);
-        return;
+        return false;
     }
     const VbDate date = DateFromYYYYMMDD(record.DateEvent);
     gStrDiaryDataFile = GetDiaryFileNameForDate(date);
@@ -128,16 +128,17 @@ void cDiaryRecords::AddDiaryRecord(cDiaryRecord& record, bool reload, bool noSer
     const std::string line = record.FormatDiaryRecordAsCSV(kFieldDelimiter, "");
     if (Trim(line).empty()) {
         glbLog.log("Trying to add blank record - aborting", 0);
-        return;
+        return false;
     }
     glbLog.log("AddDiaryRecord (File Append) to " + gStrDiaryDataFile + " - " + line, 3);
     if (!IsDiaryDate(date) || !AppendToFile(gStrDiaryDataFile, line + "\r\n")) {
         glbLog.log("AddDiaryRecord - could not append to " + gStrDiaryDataFile + " - " + line, 0);
-        return;
+        return false;
     }
     fileStamp_ = stampOf(gStrDiaryDataFile);
     if (reload) LoadDiaryData(date);
     if (!noServerCopy) glbComms.SaveFileToMyNetworkDatapathForServer(gStrDiaryDataFile, false);
+    return true;
 }
 
 }  // namespace orbidex

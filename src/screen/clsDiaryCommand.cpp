@@ -93,6 +93,7 @@ void clsDiaryCommand::viewRefresh() {
     } else {
         serverRefreshStaffData();
     }
+    glbRefreshNeeded = false;
     timerOn(true);
 }
 

@@ -64,12 +64,14 @@ void clsDiaryCommand::EventReschedule() {
     if (form_ == nullptr) return;
     if (glbConfig.GridOrList == "GRID") {
         // The event is the one under the selected cell.  In the day view the row names
-        // it; in the other views a row's number is that of the last event placed in
-        // any of its days, so the event is the one the click on this cell found.
+        // it when that is the cell's event; otherwise (and in the other views, where a
+        // row's number is that of the last event placed in any of its days) the event
+        // is the one the click on this cell found.
         const FlexGrid& grid = form_->gridDays;
-        if (glbConfig.DayWeekMonth == 1) {
-            const std::string id = glbEvents.IdConvertToString(grid.ColData(grid.Col), grid.RowData(grid.Row));
-            gintcur = AsCurrentIndex(glbEvents.SelectDiaryRecordFromID(id));
+        const long named =
+            glbConfig.DayWeekMonth == 1 ? glbEvents.SelectDiaryRecordFromDayViewRow(grid, grid.Row, grid.Col) : -1;
+        if (named >= 0) {
+            gintcur = AsCurrentIndex(named);
         } else if (grid.Row != glbEvents.currentGridRow() || grid.Col != glbEvents.currentGridCol()) {
             gintcur = -1;
         }

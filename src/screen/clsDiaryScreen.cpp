@@ -79,6 +79,7 @@ void clsDiaryScreen::SwitchMode(const std::string& mode, bool force) {
         return;
     }
     setUpMode(mode_);
+    glbRefreshNeeded = false;  // the view now shows what has arrived
 
     selectTreeNode(mode_);
     resize();

@@ -109,7 +109,7 @@ void frmClientDiaryMain::gridDays_DragDrop(Control& source, long, long) {
         redrawAfterDrop();
     }
     dragText_.clear();
-    glbLog.log(" gridDays_DragDrop (leaving) : gintcur=" + CStr(gintcur), 3);
+    glbLog.log(CStr(gintcur) + " gridDays_DragDrop (leaving) : gintcur=", 3);
 }
 
 void frmClientDiaryMain::gridDays_OLEDragDrop(const DataObject& data) {

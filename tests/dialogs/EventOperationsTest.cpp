@@ -208,6 +208,43 @@ TEST_F(EventOperationsTest, ReschedulingAMeetingToAnotherMonthMovesItAndWritesOl
     EXPECT_TRUE(platform_.Transcript().empty()) << "a reschedule tells the others without asking";
 }
 
+// A folder stands where July's file should be, so nothing can be appended to it.
+TEST_F(EventOperationsTest, AMoveToAMonthThatCannotBeWrittenKeepsTheEventWhereItWas) {
+    const struct {
+        const char* what;
+        std::function<void()> move;
+    } cases[] = {
+        {"an edit to 3 July",
+         [&] {
+             OnEditor([](frmEditEvent& form) {
+                 form.dtPickDate.UserPickDate(DateSerial(2004, 7, 3));
+                 form.cmdOK.UserClick();
+             });
+             glbEvents.DiaryEventEdit();
+         }},
+        {"a reschedule to 4 July",
+         [&] {
+             OnReschedule([](frmRescheduleEvent& form) {
+                 form.optMoveAhead(2).UserClick();
+                 gintcur = -1;
+                 form.cmdOK.UserClick();
+             });
+             glbEvents.DiaryEventReschedule();
+         }},
+    };
+    ASSERT_TRUE(MakeFolder(Data("D200407.dat")));
+    for (const auto& c : cases) {
+        LoadJune({kStandup, kReview});
+        gintcur = 1;
+        c.move();
+        EXPECT_EQ(Lines("D200406.dat"), (std::vector<std::string>{kStandup, kReview})) << c.what;
+        EXPECT_EQ(glbEvents.events(1).details, "Project review") << c.what;
+        EXPECT_FALSE(FileExists(Data("_CHANGE_REQUEST.TXT"))) << c.what << ": the others hear of no change";
+        EXPECT_FALSE(LoggedMessage("moving an event to a different month in this version")) << c.what;
+        EXPECT_TRUE(platform_.Transcript().empty()) << c.what;
+    }
+}
+
 TEST_F(EventOperationsTest, DeletingAsksFirstAndAMeetingMayBeCancelledForTheOthers) {
     LoadJune({kStandup, kReview});
     gintcur = 0;

@@ -118,20 +118,32 @@ TEST_F(DiaryRecordTest, TheNetworkFormShowsWhatEachSecurityLevelAllows) {
     EXPECT_EQ(normal.FormatDiaryRecordForNetwork(usage, "|", "", "3"), usage.FormatDiaryRecordAsCSV("|", ""));
 }
 
-TEST_F(DiaryRecordTest, AReminderIsDueTodayUpToItsMinuteThenPast) {
-    auto reminder = [](const std::string& date, const std::string& time) {
+TEST_F(DiaryRecordTest, TheReminderMarkFollowsTheEventsOwnDayAndTime) {
+    auto mark = [](const std::string& date, const std::string& time) {
         cDiaryRecord r;
-        r.DateRemind = date;
-        r.TimeRemind = time;
+        r.DateEvent = date;
+        r.TimeEvent = time;
         return r.IsThisEventIsReminder();
     };
     // The clock stands at 2004-06-05 09:30:12.
-    EXPECT_EQ(reminder("20040605", "0930"), 1);
-    EXPECT_EQ(reminder("20040605", "0929"), 3);
-    EXPECT_EQ(reminder("20040606", "0800"), 2);
-    EXPECT_EQ(reminder("20040604", "2300"), 3);
-    EXPECT_EQ(reminder("20040605", "0000"), 0) << "a reminder at midnight never counts";
-    EXPECT_EQ(reminder(" 20040606 ", "0930"), 3) << "the date is compared as it stands";
+    EXPECT_EQ(mark("20040605", "0930"), 1);
+    EXPECT_EQ(mark("20040605", "0929"), 3);
+    EXPECT_EQ(mark("20040606", "0800"), 2);
+    EXPECT_EQ(mark("20040604", "2300"), 3);
+    EXPECT_EQ(mark("20040605", "0000"), 0) << "an event at midnight never counts";
+    EXPECT_EQ(mark(" 20040606 ", "0930"), 3) << "the date is compared as it stands";
+
+    // The reminder's own day and time play no part.
+    cDiaryRecord noReminder;
+    noReminder.DateEvent = "20040605";
+    noReminder.TimeEvent = "1000";
+    EXPECT_EQ(noReminder.IsThisEventIsReminder(), 1);
+    cDiaryRecord midnightWithReminder;
+    midnightWithReminder.DateEvent = "20040606";
+    midnightWithReminder.TimeEvent = "0000";
+    midnightWithReminder.DateRemind = "20040606";
+    midnightWithReminder.TimeRemind = "0800";
+    EXPECT_EQ(midnightWithReminder.IsThisEventIsReminder(), 0);
 }
 
 TEST_F(DiaryRecordTest, AssigningCopiesEveryFieldAndANullSourceBlanksButKeepsTheAmounts) {

@@ -99,6 +99,7 @@ TEST_F(DragDropTest, AnEventWithoutAReminderMovesWithoutOne) {
     EXPECT_EQ(Data("D200406.dat"),
               kPost + closed("D200406050003|20040605|Office|1030|30|Call|||||||||Ring the bank|\r\n"));
     EXPECT_EQ(grid().TextMatrix(4, 2), "Ring the bank");
+    EXPECT_TRUE(LogHas("-1 gridDays_DragDrop (leaving) : gintcur=")) << "the number comes first";
 }
 
 TEST_F(DragDropTest, TextFromAnotherProgramBecomesAnEventATaskOrANote) {

@@ -185,6 +185,23 @@ TEST_F(EventCommandsTest, InTheWeekTheRescheduleTakesTheEventOfTheSelectedCell) 
     EXPECT_EQ(File("200406"), monday + tuesday);
 }
 
+TEST_F(EventCommandsTest, InTheDayViewAnEventEnteredInAnotherYearIsTheOneSelectedAndRescheduled) {
+    // Entered on 1 June 2005 for 5 June 2004: its row keeps the identifier's last
+    // eight digits, which with the view's year name the event entered on 1 June 2004.
+    const std::string firstOfJune = Event("D200406010001", "0900", "Entered on the 1st", "20040601");
+    const std::string backFilled = Event("D200506010001", "1000", "Back-filled");
+    Start(firstOfJune + backFilled);
+    Grid().UserClickCell(3, 2);
+    EXPECT_EQ(std::string(Form().status.Panels(1).Text), "At 1000 on 20040605 spent 30 minutes on ''Back-filled'");
+    On<frmRescheduleEvent>("frmRescheduleEvent", [](frmRescheduleEvent& form) {
+        EXPECT_EQ(form.txtDetails.Text(), "Back-filled");
+        form.cmdCancel.UserClick();
+    });
+    Form().mnuAppReschedule.UserClick();
+    EXPECT_EQ(Shown("frmRescheduleEvent"), 1);
+    EXPECT_EQ(File("200406"), firstOfJune + backFilled);
+}
+
 TEST_F(EventCommandsTest, TheMultiDayDialogAddsItsEventsAndTheWeekShowsThem) {
     Start("");
     Toolbar("week");

@@ -54,14 +54,13 @@ TEST_F(EventListTest, ColumnsFollowTheCaptionsAndHiddenFieldsHaveNone) {
 
 TEST_F(EventListTest, RowsOfTheWeekCarryTheirIdentifierIconAndColour) {
     View("7");
-    const Event plain = With(E("20040607", "0900", "Plain"), &Event::reference, "");
+    const Event plain = With(E("20040607", "0000", "Plain"), &Event::reference, "");
     const Event usage = With(With(E("20040608", "1000", "Word"), &Event::reference, "PCFile"), &Event::action, "Usage");
     const Event access =
         With(With(E("20040609", "1100", "a.doc"), &Event::reference, "Edit"), &Event::action, "PCFile");
     const Event meeting = With(E("20040610", "1200", "Board"), &Event::action, "Meeting");
-    const Event reminder =
-        With(With(E("20040611", "1300", "Call"), &Event::dateRemind, "20040611"), &Event::timeRemind, "1245");
-    Show(June(9), {E("20040606", "0900", "Sunday before"), plain, usage, access, meeting, reminder,
+    const Event timed = E("20040611", "1300", "Call");
+    Show(June(9), {E("20040606", "0900", "Sunday before"), plain, usage, access, meeting, timed,
                    E("20040614", "0900", "Monday after")});
 
     EXPECT_EQ(MainForm().lblHeading.Caption(), "  Events for Week beginning 7-Jun-2004");
@@ -73,11 +72,11 @@ TEST_F(EventListTest, RowsOfTheWeekCarryTheirIdentifierIconAndColour) {
                                                                       {usage.id, "tessaline"},
                                                                       {access.id, "autobackup"},
                                                                       {meeting.id, "staff"},
-                                                                      {reminder.id, "calendar"}}));
+                                                                      {timed.id, "calendar"}}));
     ListItem& plainRow = List().ListItems(1);
     EXPECT_EQ((std::vector<std::string>{plainRow.SubItems(1), plainRow.SubItems(2), plainRow.SubItems(3),
                                         plainRow.SubItems(4)}),
-              (std::vector<std::string>{"20040607", "0900", "30", "Plain"}));
+              (std::vector<std::string>{"20040607", "0000", "30", "Plain"}));
     EXPECT_EQ(plainRow.ForeColor(), vbWindowText);
     for (long i : {2L, 3L}) {
         ListItem& usageRow = List().ListItems(i);

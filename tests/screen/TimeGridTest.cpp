@@ -222,4 +222,20 @@ TEST_F(TimeGridTest, AClickFindsTheCellsEventOrTellsWhatTheCellHolds) {
     View("31");
     Draw(June(7));
     EXPECT_EQ(Click(1, 2), "Blank Timeslot on 31-May-2004 at 0900");
+
+    // Over ten days a column reports the day before for a blank cell, but an event is
+    // found on the day the column shows its events for, the 1st included.
+    const Event sunday = E("20040606", "0945", "Dentist");
+    const Event standup = E("20040601", "0900", "Standup");
+    Show(June(7), {standup, sunday, first});
+    EXPECT_EQ(Click(2, 8), "At 0945 on 20040607 spent 30 minutes on ''Dentist'");
+    EXPECT_EQ(gCurrentEvent.ID, first.id);
+    EXPECT_EQ(Click(2, 7), "At 0945 on 20040606 spent 30 minutes on ''Dentist'");
+    EXPECT_EQ(gCurrentEvent.ID, sunday.id);
+    EXPECT_EQ(Click(1, 2), "At 0900 on 20040601 spent 30 minutes on ''Standup'");
+    EXPECT_EQ(gCurrentEvent.ID, standup.id);
+    View("14");
+    Draw(June(7));
+    EXPECT_EQ(Click(2, 8), "At 0945 on 20040607 spent 30 minutes on ''Dentist'");
+    EXPECT_EQ(gCurrentEvent.ID, first.id);
 }

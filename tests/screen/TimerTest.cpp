@@ -10,6 +10,7 @@
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
+#include "screen/clsDiaryScreen.h"
 
 using namespace orbidex;
 
@@ -90,4 +91,24 @@ TEST_F(TimerTest, AClientHandsOverEachSecondAndPingsAndRefreshesOnTheMinute) {
         EXPECT_EQ(glbRefreshNeeded, !c.handsOver);
         EXPECT_TRUE(Form().timerSecond.Enabled);
     }
+}
+
+TEST_F(TimerTest, TheMinutesRefreshIsMadeOnceInEveryMode) {
+    StartProgram("CLIENT");
+    glbConfig.runLocalModeOnly = "0";
+    glbNetworkDatapath = Stored("share\\fred\\");  // away: nothing to hand over
+    glbConfig.RetryAfterOutage = 1;
+    int minute = 31;
+    for (const char* mode : {"TASK", "NOTE", "HOME", "MESSAGE", "STAFF", "CALENDAR"}) {
+        SCOPED_TRACE(mode);
+        glbScreen.SwitchMode(mode);
+        glbRefreshNeeded = true;  // as work from the server asks
+        TickAt(9, minute++, 0);
+        EXPECT_FALSE(glbRefreshNeeded);
+        EXPECT_EQ(glbScreen.Mode(), mode);
+    }
+    // A view the user draws is as good as the minute's refresh.
+    glbRefreshNeeded = true;
+    glbScreen.SwitchMode("NOTE");
+    EXPECT_FALSE(glbRefreshNeeded);
 }
