@@ -43,23 +43,11 @@ protected:
     }
     std::string Ini() { return ReadBytes(gStrIniFile); }
     bool IniHas(const std::string& line) { return InStr(Ini(), "\r\n" + line + "\r\n") != 0; }
-    /// The captions of the event list's columns, the icon's column left out.
-    std::vector<std::string> Columns(ListView& list) {
+    /// The captions of the list's columns from the `first`, by default the one after the icon's.
+    std::vector<std::string> Columns(ListView& list, long first = 2) {
         std::vector<std::string> captions;
-        for (long i = 2; i <= list.ColumnHeaders.Count(); ++i) captions.push_back(list.ColumnHeaders(i).Text);
+        for (long i = first; i <= list.ColumnHeaders.Count(); ++i) captions.push_back(list.ColumnHeaders(i).Text);
         return captions;
-    }
-    /// The back colour of the grid's cell that shows `text`, or -1.
-    long BackColourOf(const std::string& text) {
-        FlexGrid& grid = Form().gridDays;
-        for (long r = 0; r < grid.Rows; ++r)
-            for (long c = 0; c < grid.Cols; ++c)
-                if (grid.TextMatrix(r, c) == text) {
-                    grid.Row = r;
-                    grid.Col = c;
-                    return static_cast<long>(grid.CellBackColor());
-                }
-        return -1;
     }
 };
 
@@ -91,10 +79,16 @@ TEST_F(DisplayDialogsTest, ColourChosenIsWrittenAsTheSettingsFileKeepsColoursAnd
     });
     Form().mnuOptionsDisplay.UserClick();
     for (const auto& c : cases) EXPECT_TRUE(IniHas(c.line)) << c.line;
-    EXPECT_TRUE(IniHas("weekend_BackColor=&HE0E9E9")) << "a colour not changed keeps its text";
-    EXPECT_TRUE(IniHas("multi_BackColor=&HC0C0FF"));
+    // A colour not changed keeps its text.
+    for (const char* line : {"weekend_BackColor=&HE0E9E9", "multi_BackColor=&HC0C0FF"})
+        EXPECT_TRUE(IniHas(line)) << line;
     EXPECT_EQ(glbConfig.normal_BackColor, 0xFF8000);
-    EXPECT_EQ(BackColourOf("Dentist"), 0xFF8000) << "the grid is drawn with the new colour";
+    // The grid is drawn with the new colour.
+    FlexGrid& grid = Form().gridDays;
+    ASSERT_EQ(grid.TextMatrix(3, 2), "Dentist");
+    grid.Row = 3;
+    grid.Col = 2;
+    EXPECT_EQ(grid.CellBackColor(), 0xFF8000u);
 }
 
 TEST_F(DisplayDialogsTest, ColoursAndFontCancelledWriteNoByte) {
@@ -118,9 +112,8 @@ TEST_F(DisplayDialogsTest, ColoursAndFontCancelledWriteNoByte) {
         dialog.cmdOK.UserClick();
     });
     Form().mnuOptionsDisplay.UserClick();
-    EXPECT_TRUE(IniHas("fontName=Courier"));
-    EXPECT_TRUE(IniHas("fontSize=12"));
-    EXPECT_TRUE(IniHas("normal_BackColor=&HF0F4F4"));
+    for (const char* line : {"fontName=Courier", "fontSize=12", "normal_BackColor=&HF0F4F4"})
+        EXPECT_TRUE(IniHas(line)) << line;
 }
 
 TEST_F(DisplayDialogsTest, EventListHeadingHiddenAndRenamedShowInTheListAtOnce) {
@@ -144,9 +137,9 @@ TEST_F(DisplayDialogsTest, EventListHeadingHiddenAndRenamedShowInTheListAtOnce) 
     EXPECT_EQ(Columns(Form().lvDiary),
               (std::vector<std::string>{"Day", "Reference", "Length", "Action to perform", "Event Details"}));
     EXPECT_EQ(Form().lvDiary.ListItems(1).ListSubItems(5).Text(), "Dentist") << "the row follows its columns";
-    for (const char* line : {"Date=Day", "Time=<hide>", "Reference=Reference", "ActionToPerform=Action to perform"})
+    for (const char* line :
+         {"Date=Day", "Time=<hide>", "Reference=Reference", "ActionToPerform=Action to perform", "Length=Length"})
         EXPECT_TRUE(IniHas(line)) << line;
-    EXPECT_TRUE(IniHas("Length=Length"));
 }
 
 TEST_F(DisplayDialogsTest, NoHeadingTickedKeepsTheDialogOpenAndCancelWritesNothing) {
@@ -179,10 +172,7 @@ TEST_F(DisplayDialogsTest, TaskHeadingsFromTheTasksMenuReachTheTaskListThroughTh
     Form().mnuTaskHeadings.UserClick();
     EXPECT_EQ(glbScreen.Mode(), "TASK");
     EXPECT_TRUE(IniHas("Priority=Urgency"));
-    std::vector<std::string> columns;
-    for (long i = 1; i <= Form().lvCat.ColumnHeaders.Count(); ++i)
-        columns.push_back(Form().lvCat.ColumnHeaders(i).Text);
-    EXPECT_EQ(columns, (std::vector<std::string>{" ", "Urgency", "Task Details"}));
+    EXPECT_EQ(Columns(Form().lvCat, 1), (std::vector<std::string>{" ", "Urgency", "Task Details"}));
 }
 
 TEST_F(DisplayDialogsTest, NoteHeadingsFromTheMenuAndTheOptionsAreWrittenAndTheNoteListKeepsTheTitle) {
@@ -248,23 +238,16 @@ TEST_F(DisplayDialogsTest, NoteHeadingsFromTheMenuAndTheOptionsAreWrittenAndTheN
 }
 
 TEST_F(DisplayDialogsTest, EnforcingTheServersConfirmationTurnsOnAndOffTwice) {
-    const struct {
-        bool on;
-        std::string text;
-    } clicks[] = {
-        {true, "Server Enforced is on"},
-        {false, "Server Enforced is Off\r\nServer does not have to respond to all requests"},
-        {true, "Server Enforced is on"},
-        {false, "Server Enforced is Off\r\nServer does not have to respond to all requests"},
-    };
+    const std::string on = "Server Enforced is on";
+    const std::string off = "Server Enforced is Off\r\nServer does not have to respond to all requests";
     ASSERT_FALSE(glbServerConfirm);
     ASSERT_FALSE(Form().mnuBetaServerEnforce.Checked);
     std::vector<std::string> shown;
-    for (const auto& click : clicks) {
+    for (bool enforced : {true, false, true, false}) {
         Form().mnuBetaServerEnforce.UserClick();
-        shown.push_back(click.text);
-        EXPECT_EQ(glbServerConfirm, click.on);
-        EXPECT_EQ(Form().mnuBetaServerEnforce.Checked(), click.on);
+        shown.push_back(enforced ? on : off);
+        EXPECT_EQ(glbServerConfirm, enforced);
+        EXPECT_EQ(Form().mnuBetaServerEnforce.Checked(), enforced);
         EXPECT_EQ(platform_.Transcript().back().title, "Enforce Confirm save from server");
     }
     EXPECT_EQ(platform_.MessageTexts(), shown) << "one message a click, in order";
