@@ -51,7 +51,7 @@ protected:
     }
 };
 
-TEST_F(DisplayDialogsTest, ColourChosenIsWrittenAsTheSettingsFileKeepsColoursAndDrawnAtOnce) {
+TEST_F(DisplayDialogsTest, ColoursAndFontChosenAreWrittenWithOkAndDrawnAtOnceButNoByteWithCancel) {
     const struct {
         int row;
         bool background;
@@ -63,24 +63,36 @@ TEST_F(DisplayDialogsTest, ColourChosenIsWrittenAsTheSettingsFileKeepsColoursAnd
         {5, true, 0x123456, "today_BackColor=1193046"},
         {6, false, 0xFFFFFF, "PCFile_ForeColor=16777215"},
     };
-    Script<frmColour>("frmColour", [&](frmColour& dialog) {
-        EXPECT_EQ(dialog.Colour("normal_BackColor"), 0xF0F4F4) << "read from \"&HF0F4F4\"";
-        EXPECT_EQ(dialog.lblSample(2).BackColor(), 0xAFC1C2u) << "heading, read from \"11518402\"";
-        for (const auto& c : cases) {
-            platform_.QueueColourAnswer(c.picked);
-            (c.background ? dialog.cmdBack(c.row) : dialog.cmdFore(c.row)).UserClick();
-            EXPECT_EQ(c.background ? dialog.lblSample(c.row).BackColor() : dialog.lblSample(c.row).ForeColor(),
-                      static_cast<OleColor>(c.picked))
-                << c.line << ": the sample shows the choice";
+    const std::string before = Ini();
+    for (bool ok : {false, true}) {
+        Script<frmColour>("frmColour", [&](frmColour& dialog) {
+            EXPECT_EQ(dialog.Colour("normal_BackColor"), 0xF0F4F4) << "read from \"&HF0F4F4\"";
+            EXPECT_EQ(dialog.lblSample(2).BackColor(), 0xAFC1C2u) << "heading, read from \"11518402\"";
+            EXPECT_EQ(dialog.lblFont.Caption(), " Arial, 9 points") << "the font of a new settings file";
+            for (const auto& c : cases) {
+                platform_.QueueColourAnswer(c.picked);
+                (c.background ? dialog.cmdBack(c.row) : dialog.cmdFore(c.row)).UserClick();
+                EXPECT_EQ(c.background ? dialog.lblSample(c.row).BackColor() : dialog.lblSample(c.row).ForeColor(),
+                          static_cast<OleColor>(c.picked))
+                    << c.line << ": the sample shows the choice";
+            }
+            platform_.QueueColourAnswer(-1);  // the chooser cancelled: the colour stays
+            dialog.cmdBack(3).UserClick();
+            platform_.QueueFontAnswer("Courier", 12);
+            dialog.cmdFont.UserClick();
+            EXPECT_EQ(dialog.lblFont.Caption(), " Courier, 12 points");
+            EXPECT_EQ(dialog.lblFont.FontName(), "Courier");
+            (ok ? dialog.cmdOK : dialog.cmdCancel).UserClick();
+        });
+        Form().mnuOptionsDisplay.UserClick();
+        if (!ok) {
+            EXPECT_EQ(Ini(), before) << "Cancel";
         }
-        platform_.QueueColourAnswer(-1);  // the chooser cancelled: the colour stays
-        dialog.cmdBack(3).UserClick();
-        dialog.cmdOK.UserClick();
-    });
-    Form().mnuOptionsDisplay.UserClick();
+    }
     for (const auto& c : cases) EXPECT_TRUE(IniHas(c.line)) << c.line;
-    // A colour not changed keeps its text.
-    for (const char* line : {"weekend_BackColor=&HE0E9E9", "multi_BackColor=&HC0C0FF"})
+    // A colour not changed keeps its text; the font chosen is written.
+    for (const char* line :
+         {"weekend_BackColor=&HE0E9E9", "multi_BackColor=&HC0C0FF", "fontName=Courier", "fontSize=12"})
         EXPECT_TRUE(IniHas(line)) << line;
     EXPECT_EQ(glbConfig.normal_BackColor, 0xFF8000);
     // The grid is drawn with the new colour.
@@ -89,31 +101,6 @@ TEST_F(DisplayDialogsTest, ColourChosenIsWrittenAsTheSettingsFileKeepsColoursAnd
     grid.Row = 3;
     grid.Col = 2;
     EXPECT_EQ(grid.CellBackColor(), 0xFF8000u);
-}
-
-TEST_F(DisplayDialogsTest, ColoursAndFontCancelledWriteNoByte) {
-    const std::string before = Ini();
-    Script<frmColour>("frmColour", [this](frmColour& dialog) {
-        platform_.QueueColourAnswer(0x00FF00);
-        dialog.cmdBack(0).UserClick();
-        platform_.QueueFontAnswer("Courier", 12);
-        dialog.cmdFont.UserClick();
-        EXPECT_EQ(dialog.lblFont.Caption(), " Courier, 12 points");
-        EXPECT_EQ(dialog.lblFont.FontName(), "Courier");
-        dialog.cmdCancel.UserClick();
-    });
-    Form().mnuOptionsDisplay.UserClick();
-    EXPECT_EQ(Ini(), before);
-
-    Script<frmColour>("frmColour", [this](frmColour& dialog) {
-        EXPECT_EQ(dialog.lblFont.Caption(), " Arial, 9 points") << "the font of a new settings file";
-        platform_.QueueFontAnswer("Courier", 12);
-        dialog.cmdFont.UserClick();
-        dialog.cmdOK.UserClick();
-    });
-    Form().mnuOptionsDisplay.UserClick();
-    for (const char* line : {"fontName=Courier", "fontSize=12", "normal_BackColor=&HF0F4F4"})
-        EXPECT_TRUE(IniHas(line)) << line;
 }
 
 TEST_F(DisplayDialogsTest, EventListHeadingHiddenAndRenamedShowInTheListAtOnce) {
