@@ -15,38 +15,40 @@ using namespace orbidex;
 
 class CommandsTest : public test::MainScreenFixture {
 protected:
+    void SetUp() override {
+        MainScreenFixture::SetUp();
+        StartProgram();
+    }
     void click(const std::string& key) { Form().Toolbar1.UserClickButton(Form().Toolbar1.Buttons(key)); }
-    std::vector<bool> viewTicks() {
-        std::vector<bool> ticks;
-        for (Menu& entry : Form().mnuViewType) ticks.push_back(entry.Checked);
-        return ticks;
+    /// The view's length as "<setting> <days shown> ticked <view menu ticks> [<pressed keys>]".
+    std::string viewLength() {
+        std::string ticks;
+        for (Menu& entry : Form().mnuViewType) ticks += entry.Checked ? "1" : "0";
+        std::string shown = CStr(glbConfig.DayWeekMonth) + " " + CStr(glbNumDaysToDisplay) + " ticked " + ticks + " [";
+        for (const char* key : {"days", "week", "month"})
+            if (Form().Toolbar1.Buttons(key).Value() == tbrPressed) shown += key;
+        return shown + "]";
     }
 };
 
+// The program is started by the test, with events to list or as a client.
+class CommandsBeforeStartTest : public CommandsTest {
+protected:
+    void SetUp() override { MainScreenFixture::SetUp(); }
+};
+
 TEST_F(CommandsTest, TheViewLengthComesFromTheToolBarAndTheMenu) {
-    StartProgram();
     click("week");
-    EXPECT_EQ(glbConfig.DayWeekMonth, 7);
-    EXPECT_EQ(glbNumDaysToDisplay, 7);
-    EXPECT_EQ(viewTicks(), (std::vector<bool>{false, true, false, false}));
-    EXPECT_EQ(Form().Toolbar1.Buttons("week").Value(), tbrPressed);
-
+    EXPECT_EQ(viewLength(), "7 7 ticked 0100 [week]");
     Form().mnuViewType[3].UserClick();
-    EXPECT_EQ(glbConfig.DayWeekMonth, 31);
-    EXPECT_EQ(viewTicks(), (std::vector<bool>{false, false, false, true}));
-    EXPECT_EQ(Form().Toolbar1.Buttons("month").Value(), tbrPressed);
-    EXPECT_EQ(Form().Toolbar1.Buttons("week").Value(), tbrUnpressed);
-
+    EXPECT_EQ(viewLength(), "31 31 ticked 0001 [month]");
     Form().mnuViewType[2].UserClick();
-    EXPECT_EQ(glbConfig.DayWeekMonth, 14);
-    EXPECT_EQ(Form().Toolbar1.Buttons("month").Value(), tbrUnpressed);
+    EXPECT_EQ(viewLength(), "14 14 ticked 0010 []");
     glbCmd.ToolbarClicked("days");
-    EXPECT_EQ(glbNumDaysToDisplay, 1);
-    EXPECT_EQ(viewTicks(), (std::vector<bool>{true, false, false, false}));
+    EXPECT_EQ(viewLength(), "1 1 ticked 1000 [days]");
 }
 
 TEST_F(CommandsTest, GridOrListIsSavedAndShown) {
-    StartProgram();
     click("list");
     EXPECT_EQ(glbConfig.GridOrList, "LIST");
     EXPECT_NE(ReadBytes(gStrIniFile).find("GridOrList=LIST\r\n"), std::string::npos);
@@ -63,24 +65,21 @@ TEST_F(CommandsTest, GridOrListIsSavedAndShown) {
 }
 
 TEST_F(CommandsTest, EntriesWithAnOperationAreEnabled) {
-    StartProgram();
-    for (Menu* entry : {&Form().mnuNotesMenu[3], &Form().mnuBetaServerEnforce})
-        EXPECT_TRUE(entry->Enabled) << entry->Name();
-    for (Menu* entry : {&Form().mnuFilePrint, &Form().mnuFileExit, &Form().mnuViewMode[2], &Form().mnuViewRefresh,
-                        &Form().mnuBetaTest[3], &Form().mnuHelpContents, &Form().mnuAppAdd, &Form().mnuAppRecurring,
-                        &Form().mnuPopupGridAdd, &Form().mnuTaskMenu[0], &Form().mnuNotesMenu[5],
-                        &Form().mnuBetaReindexTask, &Form().mnuPingServer, &Form().mnuServerLogoff,
-                        &Form().mnuFileImport, &Form().mnuFileExport, &Form().mnuBetaTest[0], &Form().mnuOptScrapPaper,
-                        &Form().mnuSearchQuick, &Form().mnuViewSetup, &Form().mnuAppPlanMeeting, &Form().mnuTaskHeadings,
-                        &Form().mnuOptionsDisplay, &Form().mnuOptionsListView, &Form().mnuOptionsTaskHeadings,
-                        &Form().mnuToolsCalendar, &Form().mnuHelpAbout})
+    for (Menu* entry : {&Form().mnuNotesMenu[3],   &Form().mnuBetaServerEnforce, &Form().mnuFilePrint,
+                        &Form().mnuFileExit,       &Form().mnuViewMode[2],       &Form().mnuViewRefresh,
+                        &Form().mnuBetaTest[3],    &Form().mnuHelpContents,      &Form().mnuAppAdd,
+                        &Form().mnuAppRecurring,   &Form().mnuPopupGridAdd,      &Form().mnuTaskMenu[0],
+                        &Form().mnuNotesMenu[5],   &Form().mnuBetaReindexTask,   &Form().mnuPingServer,
+                        &Form().mnuServerLogoff,   &Form().mnuFileImport,        &Form().mnuFileExport,
+                        &Form().mnuBetaTest[0],    &Form().mnuOptScrapPaper,     &Form().mnuSearchQuick,
+                        &Form().mnuViewSetup,      &Form().mnuAppPlanMeeting,    &Form().mnuTaskHeadings,
+                        &Form().mnuOptionsDisplay, &Form().mnuOptionsListView,   &Form().mnuOptionsTaskHeadings,
+                        &Form().mnuToolsCalendar,  &Form().mnuHelpAbout})
         EXPECT_TRUE(entry->Enabled) << entry->Name();
 
     // "new" adds where there is something to add: events, tasks, notes and meetings.
     Toolbar& bar = Form().Toolbar1;
-    EXPECT_TRUE(bar.Buttons("Find").Enabled);
-    EXPECT_TRUE(bar.Buttons("print").Enabled);
-    EXPECT_TRUE(bar.Buttons("properties").Enabled);
+    for (const char* key : {"Find", "print", "properties"}) EXPECT_TRUE(bar.Buttons(key).Enabled) << key;
     EXPECT_TRUE(bar.Buttons("new").ButtonMenus(2)->Enabled);
     for (const char* mode : {"HOME", "CALENDAR", "TASK", "NOTE", "MESSAGE", "STAFF"}) {
         glbScreen.SwitchMode(mode);
@@ -91,7 +90,6 @@ TEST_F(CommandsTest, EntriesWithAnOperationAreEnabled) {
 }
 
 TEST_F(CommandsTest, TreeKeysLeadIntoTheirModes) {
-    StartProgram();
     TreeView& tree = Form().tv;
     tree.UserClickNode(*tree.Nodes.Item("TASK"));
     EXPECT_EQ(glbScreen.Mode(), "TASK");
@@ -116,7 +114,6 @@ TEST_F(CommandsTest, TreeKeysLeadIntoTheirModes) {
 }
 
 TEST_F(CommandsTest, NoteModeAnswersTheListFilters) {
-    StartProgram();
     glbScreen.SwitchMode("NOTE");
     glbCmd.ToolbarClicked("showall");
     EXPECT_EQ(Panel(1), "All Notes already displayed");
@@ -124,7 +121,7 @@ TEST_F(CommandsTest, NoteModeAnswersTheListFilters) {
     EXPECT_EQ(Panel(1), "current Notes already displayed");
 }
 
-TEST_F(CommandsTest, AClickedEventRowBecomesTheCurrentEvent) {
+TEST_F(CommandsBeforeStartTest, AClickedEventRowBecomesTheCurrentEvent) {
     WriteBytes(DataPath() + "D200406.dat", test::EventLine("D200406050001", "20040605", "0900", "First") + "\r\n" +
                                                test::EventLine("D200406050002", "20040605", "1000", "Second") + "\r\n");
     StartProgram();
@@ -142,7 +139,6 @@ TEST_F(CommandsTest, AClickedEventRowBecomesTheCurrentEvent) {
 }
 
 TEST_F(CommandsTest, ColumnHeadingsSortTheEventListBothWays) {
-    StartProgram();
     ListView& list = Form().lvDiary;
     list.ColumnHeaders.Add(" ");
     list.ColumnHeaders.Add("Time");
@@ -157,7 +153,6 @@ TEST_F(CommandsTest, ColumnHeadingsSortTheEventListBothWays) {
 }
 
 TEST_F(CommandsTest, TheStaffGridTellsOfItsCells) {
-    StartProgram();
     glbScreen.SwitchMode("STAFF");
     FlexGrid& grid = Form().gridDays;
     grid.Rows = 4;
@@ -174,7 +169,6 @@ TEST_F(CommandsTest, TheStaffGridTellsOfItsCells) {
 }
 
 TEST_F(CommandsTest, TheBrowserPaneOpensUnderTheView) {
-    StartProgram();
     Form().UserResize(12000, 8000, 11880, 7400);
     Form().mnuViewBrowser.UserClick();
     EXPECT_TRUE(Form().mnuViewBrowser.Checked);
@@ -197,7 +191,6 @@ TEST_F(CommandsTest, TheBrowserPaneOpensUnderTheView) {
 }
 
 TEST_F(CommandsTest, TheCalendarColumnFollowsItsSplitter) {
-    StartProgram();
     Form().UserResize(15000, 9000, 14880, 8400);
     FlexGrid& grid = Form().gridDays;
     EXPECT_EQ(grid.Left, Form().imgSplitter.Left + Form().imgSplitter.Width);
@@ -219,7 +212,6 @@ TEST_F(CommandsTest, TheCalendarColumnFollowsItsSplitter) {
 }
 
 TEST_F(CommandsTest, DayColumnsShareTheGridsWidth) {
-    StartProgram();
     FlexGrid& grid = Form().gridDays;
     grid.Cols = 9;
     grid.SetColWidth(0, 600);
@@ -245,7 +237,6 @@ TEST_F(CommandsTest, DayColumnsShareTheGridsWidth) {
 }
 
 TEST_F(CommandsTest, ClosingTheWindowKeepsItsPlaceAndEndsTheProgram) {
-    StartProgram();
     Form().Move(300, 450, 12000, 8000);
     EXPECT_THROW(Form().UserClose(), ProgramEnded);
     const std::string settings = ReadBytes(gStrIniFile);
@@ -254,7 +245,7 @@ TEST_F(CommandsTest, ClosingTheWindowKeepsItsPlaceAndEndsTheProgram) {
     EXPECT_THROW(Form().mnuFileExit.UserClick(), ProgramEnded);
 }
 
-TEST_F(CommandsTest, TheRefreshRebuildsThePresentMode) {
+TEST_F(CommandsBeforeStartTest, TheRefreshRebuildsThePresentMode) {
     StartProgram("CLIENT");
     Form().lblHeading.Caption = "changed";
     Form().mnuViewRefresh.UserClick();
@@ -270,14 +261,12 @@ TEST_F(CommandsTest, TheRefreshRebuildsThePresentMode) {
 }
 
 TEST_F(CommandsTest, TodayMovesTheCalendarBack) {
-    StartProgram();
     Form().MonthView1.Value = 38000;
     click("today");
     EXPECT_EQ(Form().MonthView1.Value(), 38143);  // 5 June 2004
 }
 
 TEST_F(CommandsTest, ToolsHelpAndBetaEntries) {
-    StartProgram();
     Form().mnuToolsTobrin.UserClick();
     Form().mnuHelpBugReport.UserClick();
     EXPECT_EQ(platform_.ProcessesStarted(), (std::vector<std::string>{Stored("tobrin.exe")}));

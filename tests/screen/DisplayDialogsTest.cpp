@@ -43,27 +43,15 @@ protected:
     }
     std::string Ini() { return ReadBytes(gStrIniFile); }
     bool IniHas(const std::string& line) { return InStr(Ini(), "\r\n" + line + "\r\n") != 0; }
-    /// The captions of the event list's columns, the icon's column left out.
-    std::vector<std::string> Columns(ListView& list) {
+    /// The captions of the list's columns from the `first`, by default the one after the icon's.
+    std::vector<std::string> Columns(ListView& list, long first = 2) {
         std::vector<std::string> captions;
-        for (long i = 2; i <= list.ColumnHeaders.Count(); ++i) captions.push_back(list.ColumnHeaders(i).Text);
+        for (long i = first; i <= list.ColumnHeaders.Count(); ++i) captions.push_back(list.ColumnHeaders(i).Text);
         return captions;
-    }
-    /// The back colour of the grid's cell that shows `text`, or -1.
-    long BackColourOf(const std::string& text) {
-        FlexGrid& grid = Form().gridDays;
-        for (long r = 0; r < grid.Rows; ++r)
-            for (long c = 0; c < grid.Cols; ++c)
-                if (grid.TextMatrix(r, c) == text) {
-                    grid.Row = r;
-                    grid.Col = c;
-                    return static_cast<long>(grid.CellBackColor());
-                }
-        return -1;
     }
 };
 
-TEST_F(DisplayDialogsTest, ColourChosenIsWrittenAsTheSettingsFileKeepsColoursAndDrawnAtOnce) {
+TEST_F(DisplayDialogsTest, ColoursAndFontChosenAreWrittenWithOkAndDrawnAtOnceButNoByteWithCancel) {
     const struct {
         int row;
         bool background;
@@ -75,52 +63,44 @@ TEST_F(DisplayDialogsTest, ColourChosenIsWrittenAsTheSettingsFileKeepsColoursAnd
         {5, true, 0x123456, "today_BackColor=1193046"},
         {6, false, 0xFFFFFF, "PCFile_ForeColor=16777215"},
     };
-    Script<frmColour>("frmColour", [&](frmColour& dialog) {
-        EXPECT_EQ(dialog.Colour("normal_BackColor"), 0xF0F4F4) << "read from \"&HF0F4F4\"";
-        EXPECT_EQ(dialog.lblSample(2).BackColor(), 0xAFC1C2u) << "heading, read from \"11518402\"";
-        for (const auto& c : cases) {
-            platform_.QueueColourAnswer(c.picked);
-            (c.background ? dialog.cmdBack(c.row) : dialog.cmdFore(c.row)).UserClick();
-            EXPECT_EQ(c.background ? dialog.lblSample(c.row).BackColor() : dialog.lblSample(c.row).ForeColor(),
-                      static_cast<OleColor>(c.picked))
-                << c.line << ": the sample shows the choice";
-        }
-        platform_.QueueColourAnswer(-1);  // the chooser cancelled: the colour stays
-        dialog.cmdBack(3).UserClick();
-        dialog.cmdOK.UserClick();
-    });
-    Form().mnuOptionsDisplay.UserClick();
-    for (const auto& c : cases) EXPECT_TRUE(IniHas(c.line)) << c.line;
-    EXPECT_TRUE(IniHas("weekend_BackColor=&HE0E9E9")) << "a colour not changed keeps its text";
-    EXPECT_TRUE(IniHas("multi_BackColor=&HC0C0FF"));
-    EXPECT_EQ(glbConfig.normal_BackColor, 0xFF8000);
-    EXPECT_EQ(BackColourOf("Dentist"), 0xFF8000) << "the grid is drawn with the new colour";
-}
-
-TEST_F(DisplayDialogsTest, ColoursAndFontCancelledWriteNoByte) {
     const std::string before = Ini();
-    Script<frmColour>("frmColour", [this](frmColour& dialog) {
-        platform_.QueueColourAnswer(0x00FF00);
-        dialog.cmdBack(0).UserClick();
-        platform_.QueueFontAnswer("Courier", 12);
-        dialog.cmdFont.UserClick();
-        EXPECT_EQ(dialog.lblFont.Caption(), " Courier, 12 points");
-        EXPECT_EQ(dialog.lblFont.FontName(), "Courier");
-        dialog.cmdCancel.UserClick();
-    });
-    Form().mnuOptionsDisplay.UserClick();
-    EXPECT_EQ(Ini(), before);
-
-    Script<frmColour>("frmColour", [this](frmColour& dialog) {
-        EXPECT_EQ(dialog.lblFont.Caption(), " Arial, 9 points") << "the font of a new settings file";
-        platform_.QueueFontAnswer("Courier", 12);
-        dialog.cmdFont.UserClick();
-        dialog.cmdOK.UserClick();
-    });
-    Form().mnuOptionsDisplay.UserClick();
-    EXPECT_TRUE(IniHas("fontName=Courier"));
-    EXPECT_TRUE(IniHas("fontSize=12"));
-    EXPECT_TRUE(IniHas("normal_BackColor=&HF0F4F4"));
+    for (bool ok : {false, true}) {
+        Script<frmColour>("frmColour", [&](frmColour& dialog) {
+            EXPECT_EQ(dialog.Colour("normal_BackColor"), 0xF0F4F4) << "read from \"&HF0F4F4\"";
+            EXPECT_EQ(dialog.lblSample(2).BackColor(), 0xAFC1C2u) << "heading, read from \"11518402\"";
+            EXPECT_EQ(dialog.lblFont.Caption(), " Arial, 9 points") << "the font of a new settings file";
+            for (const auto& c : cases) {
+                platform_.QueueColourAnswer(c.picked);
+                (c.background ? dialog.cmdBack(c.row) : dialog.cmdFore(c.row)).UserClick();
+                EXPECT_EQ(c.background ? dialog.lblSample(c.row).BackColor() : dialog.lblSample(c.row).ForeColor(),
+                          static_cast<OleColor>(c.picked))
+                    << c.line << ": the sample shows the choice";
+            }
+            platform_.QueueColourAnswer(-1);  // the chooser cancelled: the colour stays
+            dialog.cmdBack(3).UserClick();
+            platform_.QueueFontAnswer("Courier", 12);
+            dialog.cmdFont.UserClick();
+            EXPECT_EQ(dialog.lblFont.Caption(), " Courier, 12 points");
+            EXPECT_EQ(dialog.lblFont.FontName(), "Courier");
+            (ok ? dialog.cmdOK : dialog.cmdCancel).UserClick();
+        });
+        Form().mnuOptionsDisplay.UserClick();
+        if (!ok) {
+            EXPECT_EQ(Ini(), before) << "Cancel";
+        }
+    }
+    for (const auto& c : cases) EXPECT_TRUE(IniHas(c.line)) << c.line;
+    // A colour not changed keeps its text; the font chosen is written.
+    for (const char* line :
+         {"weekend_BackColor=&HE0E9E9", "multi_BackColor=&HC0C0FF", "fontName=Courier", "fontSize=12"})
+        EXPECT_TRUE(IniHas(line)) << line;
+    EXPECT_EQ(glbConfig.normal_BackColor, 0xFF8000);
+    // The grid is drawn with the new colour.
+    FlexGrid& grid = Form().gridDays;
+    ASSERT_EQ(grid.TextMatrix(3, 2), "Dentist");
+    grid.Row = 3;
+    grid.Col = 2;
+    EXPECT_EQ(grid.CellBackColor(), 0xFF8000u);
 }
 
 TEST_F(DisplayDialogsTest, EventListHeadingHiddenAndRenamedShowInTheListAtOnce) {
@@ -144,9 +124,9 @@ TEST_F(DisplayDialogsTest, EventListHeadingHiddenAndRenamedShowInTheListAtOnce) 
     EXPECT_EQ(Columns(Form().lvDiary),
               (std::vector<std::string>{"Day", "Reference", "Length", "Action to perform", "Event Details"}));
     EXPECT_EQ(Form().lvDiary.ListItems(1).ListSubItems(5).Text(), "Dentist") << "the row follows its columns";
-    for (const char* line : {"Date=Day", "Time=<hide>", "Reference=Reference", "ActionToPerform=Action to perform"})
+    for (const char* line :
+         {"Date=Day", "Time=<hide>", "Reference=Reference", "ActionToPerform=Action to perform", "Length=Length"})
         EXPECT_TRUE(IniHas(line)) << line;
-    EXPECT_TRUE(IniHas("Length=Length"));
 }
 
 TEST_F(DisplayDialogsTest, NoHeadingTickedKeepsTheDialogOpenAndCancelWritesNothing) {
@@ -179,10 +159,7 @@ TEST_F(DisplayDialogsTest, TaskHeadingsFromTheTasksMenuReachTheTaskListThroughTh
     Form().mnuTaskHeadings.UserClick();
     EXPECT_EQ(glbScreen.Mode(), "TASK");
     EXPECT_TRUE(IniHas("Priority=Urgency"));
-    std::vector<std::string> columns;
-    for (long i = 1; i <= Form().lvCat.ColumnHeaders.Count(); ++i)
-        columns.push_back(Form().lvCat.ColumnHeaders(i).Text);
-    EXPECT_EQ(columns, (std::vector<std::string>{" ", "Urgency", "Task Details"}));
+    EXPECT_EQ(Columns(Form().lvCat, 1), (std::vector<std::string>{" ", "Urgency", "Task Details"}));
 }
 
 TEST_F(DisplayDialogsTest, NoteHeadingsFromTheMenuAndTheOptionsAreWrittenAndTheNoteListKeepsTheTitle) {
@@ -248,23 +225,16 @@ TEST_F(DisplayDialogsTest, NoteHeadingsFromTheMenuAndTheOptionsAreWrittenAndTheN
 }
 
 TEST_F(DisplayDialogsTest, EnforcingTheServersConfirmationTurnsOnAndOffTwice) {
-    const struct {
-        bool on;
-        std::string text;
-    } clicks[] = {
-        {true, "Server Enforced is on"},
-        {false, "Server Enforced is Off\r\nServer does not have to respond to all requests"},
-        {true, "Server Enforced is on"},
-        {false, "Server Enforced is Off\r\nServer does not have to respond to all requests"},
-    };
+    const std::string on = "Server Enforced is on";
+    const std::string off = "Server Enforced is Off\r\nServer does not have to respond to all requests";
     ASSERT_FALSE(glbServerConfirm);
     ASSERT_FALSE(Form().mnuBetaServerEnforce.Checked);
     std::vector<std::string> shown;
-    for (const auto& click : clicks) {
+    for (bool enforced : {true, false, true, false}) {
         Form().mnuBetaServerEnforce.UserClick();
-        shown.push_back(click.text);
-        EXPECT_EQ(glbServerConfirm, click.on);
-        EXPECT_EQ(Form().mnuBetaServerEnforce.Checked(), click.on);
+        shown.push_back(enforced ? on : off);
+        EXPECT_EQ(glbServerConfirm, enforced);
+        EXPECT_EQ(Form().mnuBetaServerEnforce.Checked(), enforced);
         EXPECT_EQ(platform_.Transcript().back().title, "Enforce Confirm save from server");
     }
     EXPECT_EQ(platform_.MessageTexts(), shown) << "one message a click, in order";

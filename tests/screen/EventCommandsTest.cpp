@@ -56,17 +56,28 @@ protected:
             script(static_cast<Dialog&>(form));
         });
     }
-    void Save(const std::string& details, const std::string& when = "") {
-        On<frmEditEvent>("frmEditEvent", [details, when](frmEditEvent& form) {
+    /// The editor opens on `shown` (on any text when empty) at `when` ("yyyymmdd hhmm",
+    /// any time when empty) and saves `changed` in its place, or is cancelled when
+    /// `changed` is empty.
+    void Edit(const std::string& shown, const std::string& changed = "", const std::string& when = "") {
+        On<frmEditEvent>("frmEditEvent", [shown, changed, when](frmEditEvent& form) {
+            if (!shown.empty()) {
+                EXPECT_EQ(form.txtDetails.Text(), shown);
+            }
             if (!when.empty()) {
                 EXPECT_EQ(FormatDate(form.dtPickTime.Value, "yyyymmdd hhmm"), when);
             }
-            form.txtDetails.UserEdit({TextRun{details, {}}}, static_cast<long>(details.size()));
+            if (changed.empty()) return form.cmdCancel.UserClick();
+            form.txtDetails.UserEdit({TextRun{changed, {}}}, static_cast<long>(changed.size()));
             form.cmdOK.UserClick();
         });
     }
-    void Cancel() {
-        On<frmEditEvent>("frmEditEvent", [](frmEditEvent& form) { form.cmdCancel.UserClick(); });
+    /// The reschedule dialog opens on `shown` and is cancelled.
+    void CancelReschedule(const std::string& shown) {
+        On<frmRescheduleEvent>("frmRescheduleEvent", [shown](frmRescheduleEvent& form) {
+            EXPECT_EQ(form.txtDetails.Text(), shown);
+            form.cmdCancel.UserClick();
+        });
     }
     FlexGrid& Grid() { return Form().gridDays; }
     void DoubleClick(long row, long col) {
@@ -79,6 +90,11 @@ protected:
     }
     std::string File(const std::string& month) { return ReadBytes(DataPath() + "D" + month + ".dat"); }
     void Toolbar(const std::string& key) { Form().Toolbar1.UserClickButton(Form().Toolbar1.Buttons(key)); }
+    /// The week view on the week of `day`.
+    void Week(VbDate day) {
+        Toolbar("week");
+        Form().MonthView1.UserClickDate(day);
+    }
 };
 
 TEST_F(EventCommandsTest, DoubleClicksOnTheGridAddAtTheCellOrAskAboutACellOfSeveralEvents) {
@@ -87,7 +103,7 @@ TEST_F(EventCommandsTest, DoubleClicksOnTheGridAddAtTheCellOrAskAboutACellOfSeve
     Start(standup + call);
     ASSERT_EQ(Grid().TextMatrix(3, 2), "Standup (1000)Call Jo");
 
-    Save("Dentist", "20040605 1030");
+    Edit("", "Dentist", "20040605 1030");
     DoubleClick(4, 2);
     EXPECT_EQ(File("200406"), standup + call + Added("D200406050003", "20040605", "1030", "Dentist"));
     EXPECT_EQ(Grid().TextMatrix(4, 2), "Dentist");
@@ -103,7 +119,7 @@ TEST_F(EventCommandsTest, DoubleClicksOnTheGridAddAtTheCellOrAskAboutACellOfSeve
     EXPECT_EQ(platform_.Transcript().back().buttons, vbYesNoCancel);
 
     platform_.QueueMsgBoxAnswer(vbNo);
-    Save("Lunch", "20040605 1000");
+    Edit("", "Lunch", "20040605 1000");
     DoubleClick(3, 2);
     EXPECT_EQ(Grid().TextMatrix(3, 2), "Standup (1000)Call Jo (1000)Lunch");
     EXPECT_NE(File("200406").find(Added("D200406050004", "20040605", "1000", "Lunch")), std::string::npos);
@@ -118,10 +134,9 @@ TEST_F(EventCommandsTest, DoubleClicksOnTheGridAddAtTheCellOrAskAboutACellOfSeve
 
 TEST_F(EventCommandsTest, NewInTheWeekOfNextYearTakesTheDateOfTheSelectedColumn) {
     Start("");
-    Toolbar("week");
-    Form().MonthView1.UserClickDate(DateSerial(2005, 1, 3));
+    Week(DateSerial(2005, 1, 3));
     Grid().UserClickCell(3, 3);  // Tuesday 4 January, 10:00
-    Save("New year planning", "20050104 1000");
+    Edit("", "New year planning", "20050104 1000");
     Toolbar("new");
     // The week reaches back into December, so both months are saved, each file
     // opening with an empty line.
@@ -167,13 +182,9 @@ TEST_F(EventCommandsTest, InTheWeekTheRescheduleTakesTheEventOfTheSelectedCell) 
     const std::string monday = Event("D200406070001", "1000", "Monday call", "20040607");
     const std::string tuesday = Event("D200406080001", "1000", "Tuesday call", "20040608");
     Start(monday + tuesday);
-    Toolbar("week");
-    Form().MonthView1.UserClickDate(DateSerial(2004, 6, 7));
+    Week(DateSerial(2004, 6, 7));
     ASSERT_EQ(Grid().TextMatrix(3, 2), "Monday call");
-    On<frmRescheduleEvent>("frmRescheduleEvent", [](frmRescheduleEvent& form) {
-        EXPECT_EQ(form.txtDetails.Text(), "Monday call");
-        form.cmdCancel.UserClick();
-    });
+    CancelReschedule("Monday call");
     Grid().UserClickCell(3, 2);
     Form().mnuAppReschedule.UserClick();
     EXPECT_EQ(Shown("frmRescheduleEvent"), 1);
@@ -193,10 +204,7 @@ TEST_F(EventCommandsTest, InTheDayViewAnEventEnteredInAnotherYearIsTheOneSelecte
     Start(firstOfJune + backFilled);
     Grid().UserClickCell(3, 2);
     EXPECT_EQ(std::string(Form().status.Panels(1).Text), "At 1000 on 20040605 spent 30 minutes on ''Back-filled'");
-    On<frmRescheduleEvent>("frmRescheduleEvent", [](frmRescheduleEvent& form) {
-        EXPECT_EQ(form.txtDetails.Text(), "Back-filled");
-        form.cmdCancel.UserClick();
-    });
+    CancelReschedule("Back-filled");
     Form().mnuAppReschedule.UserClick();
     EXPECT_EQ(Shown("frmRescheduleEvent"), 1);
     EXPECT_EQ(File("200406"), firstOfJune + backFilled);
@@ -204,8 +212,7 @@ TEST_F(EventCommandsTest, InTheDayViewAnEventEnteredInAnotherYearIsTheOneSelecte
 
 TEST_F(EventCommandsTest, TheMultiDayDialogAddsItsEventsAndTheWeekShowsThem) {
     Start("");
-    Toolbar("week");
-    Form().MonthView1.UserClickDate(DateSerial(2004, 6, 7));
+    Week(DateSerial(2004, 6, 7));
     On<frmEventMultiple>("frmEventMultiple", [](frmEventMultiple& form) {
         form.txtDetails.UserEdit("Sales conference", 16);
         form.lvDateList.ListItems.Add("Tue, 08-Jun-04").Tag = "20040608";
@@ -225,28 +232,25 @@ TEST_F(EventCommandsTest, TheListTheOverviewAndTheTreeAddEventsToo) {
     Start("");
     Toolbar("list");
     Form().MonthView1.UserClickDate(DateSerial(2004, 6, 6));
-    Save("Walk");
+    Edit("", "Walk");
     Form().lvDiary.UserDblClick();  // on the empty list
     ListView& list = Form().lvDiary;
     ASSERT_EQ(list.ListItems.Count(), 1);
     EXPECT_EQ(Split(File("200406"), "\x1F").at(1), "20040606");
 
-    On<frmEditEvent>("frmEditEvent", [](frmEditEvent& form) {
-        EXPECT_EQ(form.txtDetails.Text(), "Walk");
-        form.cmdCancel.UserClick();
-    });
+    Edit("Walk");
     list.UserClickItem(list.ListItems(1));
     list.UserDblClickItem(list.ListItems(1));
 
     // On the overview the page stays: the grid is not drawn over it.
     glbScreen.SwitchMode("HOME");
-    Cancel();
+    Edit("");
     Toolbar("new");
     EXPECT_EQ(glbScreen.Mode(), "HOME");
     EXPECT_TRUE(Form().web.Visible);
     EXPECT_FALSE(Form().lvDiary.Visible);
 
-    Cancel();
+    Edit("");
     Form().tv.UserClickNode(*Form().tv.Nodes.Item("CALENDAR_ADDNEW"));
     EXPECT_EQ(glbScreen.Mode(), "CALENDAR");
     EXPECT_EQ(Shown("frmEditEvent"), 4);
@@ -265,17 +269,9 @@ protected:
     void SetUp() override {
         EventCommandsTest::SetUp();
         Start("\r\n" + lunch_ + standup_ + dentist_);
-        Save("Standup at nine");
+        Edit("Standup", "Standup at nine");
         DoubleClick(1, 2);  // 09:00
         ASSERT_EQ(File("200406"), standupAtNine_ + dentist_ + lunch_);
-    }
-    /// The editor opens on `details`, which it changes to `changed`.
-    void Edit(const std::string& details, const std::string& changed) {
-        On<frmEditEvent>("frmEditEvent", [details, changed](frmEditEvent& form) {
-            EXPECT_EQ(form.txtDetails.Text(), details);
-            form.txtDetails.UserEdit({TextRun{changed, {}}}, static_cast<long>(changed.size()));
-            form.cmdOK.UserClick();
-        });
     }
     std::vector<std::string> MonthlyFiles() const { return ListFolder(DataPath() + "D*.dat", false); }
 };
@@ -301,10 +297,7 @@ TEST_F(SelectionAfterSaveTest, ARescheduleMovesTheEventClicked) {
 
 TEST_F(SelectionAfterSaveTest, ADeleteTakesOutTheEventClickedAndLeavesNoneSelected) {
     Grid().UserClickCell(7, 2);  // Lunch
-    On<frmEditEvent>("frmEditEvent", [](frmEditEvent& form) {
-        EXPECT_EQ(form.txtDetails.Text(), "Lunch");
-        form.cmdCancel.UserClick();
-    });
+    Edit("Lunch");
     Form().mnuAppEdit.UserClick();  // reads the sorted month again
     platform_.QueueMsgBoxAnswer(vbYes);
     Form().mnuAppDelete.UserClick();

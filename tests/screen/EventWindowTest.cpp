@@ -33,20 +33,11 @@ namespace {
 
 // An event line as the bank's: an office call of half an hour.
 std::string Line(const std::string& id, const std::string& date, const std::string& time, const std::string& details) {
-    return test::Fields({id, date, "Office", time, "30", "Call", "", "", "", "", "", "Normal", "", "", details}) + "\r\n";
+    return test::Fields({id, date, "Office", time, "30", "Call", "", "", "", "", "", "Normal", "", "", details}) +
+           "\r\n";
 }
 
 const std::string kBank = Line("D200406050001", "20040605", "1400", "Ring the bank");
-
-/// The lines of the month's file that hold `details`.
-std::vector<std::string> linesWith(const std::string& file, const std::string& details) {
-    std::string bytes;
-    ReadWholeFile(file, bytes);
-    std::vector<std::string> found;
-    for (const std::string& line : SplitLines(bytes))
-        if (InStr(line, "\x1F" + details + "\x1F") > 0) found.push_back(line);
-    return found;
-}
 
 }  // namespace
 
@@ -57,10 +48,24 @@ protected:
     /// The month's file the program starts on.
     virtual std::string June() const { return kBank; }
     FlexGridWidget& grid() { return *ViewOf<FlexGridWidget>(*main_, MainForm().gridDays); }
-    QPoint cell(long row, long col) { return grid().cellRect(row, col).center(); }
+    void click(long row, long col) {
+        QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, grid().cellRect(row, col).center());
+    }
     void doubleClick(long row, long col) {
-        QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cell(row, col));
-        QTest::mouseDClick(grid().viewport(), Qt::LeftButton, {}, cell(row, col));
+        click(row, col);
+        QTest::mouseDClick(grid().viewport(), Qt::LeftButton, {}, grid().cellRect(row, col).center());
+    }
+    std::string june() const {
+        std::string bytes;
+        ReadWholeFile(data_ + "D200406.dat", bytes);
+        return bytes;
+    }
+    /// The lines of the month's file that hold `details`.
+    std::vector<std::string> linesWith(const std::string& details) const {
+        std::vector<std::string> found;
+        for (const std::string& line : SplitLines(june()))
+            if (InStr(line, "\x1F" + details + "\x1F") > 0) found.push_back(line);
+        return found;
     }
     /// Types into the event editor's text in place of what it holds, then saves.
     void typeAndSave(QWidget& window, frmEditEvent& form, const QString& text) {
@@ -69,6 +74,14 @@ protected:
         edit->selectAll();
         QTest::keyClicks(edit, text);
         Press(window, form.cmdOK);
+    }
+    /// The next editor opens on `shown` and saves `text` in its place.
+    void editNext(const std::string& shown, const QString& text) {
+        platform_.OnNextModal([this, shown, text](Form& form, QWidget& window) {
+            auto& editor = static_cast<frmEditEvent&>(form);
+            EXPECT_EQ(editor.txtDetails.Text(), shown);
+            typeAndSave(window, editor, text);
+        });
     }
     void screenshotOver(QWidget& dialog, const QString& name) { test::SaveScreenshotOver(*main_, dialog, name); }
 };
@@ -83,7 +96,7 @@ TEST_F(EventWindowTest, ADoubleClickOnTheGridAddsAnEventAndAnotherEditsIt) {
         typeAndSave(window, editor, QStringLiteral("Dentist"));
     });
     doubleClick(4, 2);  // 10:30
-    const std::vector<std::string> added = linesWith(data_ + "D200406.dat", "Dentist");
+    const std::vector<std::string> added = linesWith("Dentist");
     ASSERT_EQ(added.size(), 1U);
     EXPECT_EQ(Split(added[0], "\x1F").at(3), "1030");
     EXPECT_EQ(MainForm().gridDays.TextMatrix(4, 2), "Dentist");
@@ -97,14 +110,14 @@ TEST_F(EventWindowTest, ADoubleClickOnTheGridAddsAnEventAndAnotherEditsIt) {
         typeAndSave(window, static_cast<frmEditEvent&>(form), QStringLiteral("Dentist - check-up"));
     });
     doubleClick(4, 2);
-    EXPECT_TRUE(linesWith(data_ + "D200406.dat", "Dentist").empty());
-    const std::vector<std::string> edited = linesWith(data_ + "D200406.dat", "Dentist - check-up");
+    EXPECT_TRUE(linesWith("Dentist").empty());
+    const std::vector<std::string> edited = linesWith("Dentist - check-up");
     ASSERT_EQ(edited.size(), 1U);
     EXPECT_EQ(Left(edited[0], 13), Left(added[0], 13)) << "the same event";
 }
 
 TEST_F(EventWindowTest, TheRescheduleAndMultiDayDialogsOverTheMainWindow) {
-    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cell(11, 2));  // 14:00, the bank
+    click(11, 2);  // 14:00, the bank
     platform_.OnNextModal([this](Form& form, QWidget& window) {
         auto& dialog = static_cast<frmRescheduleEvent&>(form);
         QTest::mouseClick(ViewOf<OptionButtonWidget>(window, dialog.optMoveAhead(0))->radioButton(), Qt::LeftButton);
@@ -113,7 +126,7 @@ TEST_F(EventWindowTest, TheRescheduleAndMultiDayDialogsOverTheMainWindow) {
     });
     ASSERT_NE(MenuEntry(QStringLiteral("&Reschedule this Appointment")), nullptr);
     MenuEntry(QStringLiteral("&Reschedule this Appointment"))->trigger();
-    const std::vector<std::string> moved = linesWith(data_ + "D200406.dat", "Ring the bank");
+    const std::vector<std::string> moved = linesWith("Ring the bank");
     ASSERT_EQ(moved.size(), 1U);
     EXPECT_EQ(Split(moved[0], "\x1F").at(1), "20040606") << "the next day";
 
@@ -135,7 +148,7 @@ TEST_F(EventWindowTest, TheRescheduleAndMultiDayDialogsOverTheMainWindow) {
 
 TEST_F(EventWindowTest, KeysInTheGridSelectEditAndDeleteAsTheMouseAndTheMenusDo) {
     QWidget* keys = grid().area();
-    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cell(10, 2));  // 13:30, blank
+    click(10, 2);  // 13:30, blank
     QTest::keyClick(keys, Qt::Key_Down);
     FlexGrid& model = MainForm().gridDays;
     EXPECT_EQ(model.Row(), 11);
@@ -143,13 +156,9 @@ TEST_F(EventWindowTest, KeysInTheGridSelectEditAndDeleteAsTheMouseAndTheMenusDo)
     EXPECT_EQ(MainForm().status.Panels(1).Text(), "At 1400 on 20040605 spent 30 minutes on ''Ring the bank'");
     EXPECT_TRUE(MainForm().mnuPopupGridDelete.Enabled);
 
-    platform_.OnNextModal([this](Form& form, QWidget& window) {
-        auto& editor = static_cast<frmEditEvent&>(form);
-        EXPECT_EQ(editor.txtDetails.Text(), "Ring the bank");
-        typeAndSave(window, editor, QStringLiteral("Ring the bank manager"));
-    });
+    editNext("Ring the bank", QStringLiteral("Ring the bank manager"));
     QTest::keyClick(keys, Qt::Key_Return);
-    EXPECT_EQ(linesWith(data_ + "D200406.dat", "Ring the bank manager").size(), 1U);
+    EXPECT_EQ(linesWith("Ring the bank manager").size(), 1U);
 
     QTest::keyClick(keys, Qt::Key_Up);
     EXPECT_EQ(MainForm().status.Panels(1).Text(), "Blank Timeslot on 5-Jun-2004 at 1330");
@@ -159,17 +168,17 @@ TEST_F(EventWindowTest, KeysInTheGridSelectEditAndDeleteAsTheMouseAndTheMenusDo)
     EXPECT_EQ(platform_.messages.back(),
               "Deleting event on 20040605 at 1400 details :Ring the bank manager\r\n\r\nDo you want to delete this "
               "event");
-    EXPECT_EQ(linesWith(data_ + "D200406.dat", "Ring the bank manager").size(), 1U) << "No keeps it";
+    EXPECT_EQ(linesWith("Ring the bank manager").size(), 1U) << "No keeps it";
 
     // The tool bar's Delete button asks the same, and Yes deletes.
-    auto* bar = static_cast<ToolbarWidget*>(static_cast<FormWindow*>(main_)->viewOf(MainForm().Toolbar1));
-    QAction* remove = bar->actionOf(MainForm().Toolbar1.Buttons.Item("delete"));
+    QAction* remove =
+        ViewOf<ToolbarWidget>(*main_, MainForm().Toolbar1)->actionOf(MainForm().Toolbar1.Buttons.Item("delete"));
     ASSERT_TRUE(remove->isEnabled());
     platform_.answers.push_back(vbYes);
     remove->trigger();
     EXPECT_EQ(platform_.messages.size(), 2U);
     EXPECT_EQ(platform_.messages.back(), platform_.messages.front());
-    EXPECT_TRUE(linesWith(data_ + "D200406.dat", "Ring the bank manager").empty());
+    EXPECT_TRUE(linesWith("Ring the bank manager").empty());
     QTest::keyClick(keys, Qt::Key_Delete);
     EXPECT_EQ(platform_.messages.back(), "Select a record to be deleted first");
 }
@@ -182,9 +191,7 @@ protected:
     std::string June() const override { return "\r\n" + kLunch + kStandup + kBank; }
     /// Double-clicks the stand-up, changes it and saves: the file is sorted.
     void editTheStandup() {
-        platform_.OnNextModal([this](Form& form, QWidget& window) {
-            typeAndSave(window, static_cast<frmEditEvent&>(form), QStringLiteral("Standup at nine"));
-        });
+        editNext("Standup", QStringLiteral("Standup at nine"));
         doubleClick(1, 2);  // 09:00
         ASSERT_EQ(june(), kBank + kStandupAtNine + kLunch);
     }
@@ -194,11 +201,6 @@ protected:
         std::sort(names.begin(), names.end());
         return names;
     }
-    std::string june() const {
-        std::string bytes;
-        ReadWholeFile(data_ + "D200406.dat", bytes);
-        return bytes;
-    }
 
     static inline const std::string kStandup = Line("D200406050002", "20040605", "0900", "Standup");
     static inline const std::string kStandupAtNine = Line("D200406050002", "20040605", "0900", "Standup at nine");
@@ -207,11 +209,7 @@ protected:
 
 TEST_F(SavedMonthWindowTest, DoubleClickingAnotherEventAfterASaveEditsThatEvent) {
     editTheStandup();
-    platform_.OnNextModal([this](Form& form, QWidget& window) {
-        auto& editor = static_cast<frmEditEvent&>(form);
-        EXPECT_EQ(editor.txtDetails.Text(), "Lunch");
-        typeAndSave(window, editor, QStringLiteral("Lunch with Ann"));
-    });
+    editNext("Lunch", QStringLiteral("Lunch with Ann"));
     doubleClick(7, 2);  // 12:00
     EXPECT_EQ(june(), kBank + kStandupAtNine + Line("D200406050003", "20040605", "1200", "Lunch with Ann"));
     EXPECT_EQ(monthFiles(), (std::vector<std::string>{"D200406.dat", "D200406.dat_NET"}));
@@ -219,7 +217,7 @@ TEST_F(SavedMonthWindowTest, DoubleClickingAnotherEventAfterASaveEditsThatEvent)
 
 TEST_F(SavedMonthWindowTest, ReschedulingTheEventClickedAfterASaveMovesThatEvent) {
     editTheStandup();
-    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cell(11, 2));  // 14:00, the bank
+    click(11, 2);  // 14:00, the bank
     platform_.OnNextModal([this](Form& form, QWidget& window) {
         auto& dialog = static_cast<frmRescheduleEvent&>(form);
         EXPECT_EQ(dialog.txtDetails.Text(), "Ring the bank");

@@ -74,28 +74,22 @@ TEST_F(OptionsTest, EachRuleForTheDataPathsAcceptsOneAndRefusesAnother) {
 
 TEST_F(OptionsTest, OkWritesTheKeysOfTheDialogAndCancelNoByte) {
     const std::string before = Ini();
-    InOptions([](frmOptions& options) {
-        options.chkShowFolders.UserClick();
-        options.cmbDayWeekMonth.UserSelect(1);  // week
-        options.cmbStartTime.UserSelect(8);
-        options.VScroll1.UserScroll(300);
-        options.lstSecurity.UserSelect(1);
-        options.txtTimeOut.UserEdit("5", 1);
-        options.cmdCancel.UserClick();
-    });
+    const auto change = [this](bool ok) {
+        InOptions([ok](frmOptions& options) {
+            EXPECT_EQ(options.lblHeightMin.Caption(), "Min Height = 255");
+            options.chkShowFolders.UserClick();
+            options.cmbDayWeekMonth.UserSelect(1);  // week
+            options.cmbStartTime.UserSelect(8);
+            options.VScroll1.UserScroll(300);
+            EXPECT_EQ(options.lblHeightMin.Caption(), "Min Height = 300");
+            options.lstSecurity.UserSelect(1);
+            options.txtTimeOut.UserEdit("5", 1);
+            (ok ? options.cmdOK : options.cmdCancel).UserClick();
+        });
+    };
+    change(false);
     EXPECT_EQ(Ini(), before) << "Cancel";
-
-    InOptions([](frmOptions& options) {
-        EXPECT_EQ(options.lblHeightMin.Caption(), "Min Height = 255");
-        options.chkShowFolders.UserClick();
-        options.cmbDayWeekMonth.UserSelect(1);
-        options.cmbStartTime.UserSelect(8);
-        options.VScroll1.UserScroll(300);
-        EXPECT_EQ(options.lblHeightMin.Caption(), "Min Height = 300");
-        options.lstSecurity.UserSelect(1);
-        options.txtTimeOut.UserEdit("5", 1);
-        options.cmdOK.UserClick();
-    });
+    change(true);
     std::string expected = before;
     for (const auto& [from, to] : {std::pair<std::string, std::string>{"security=3", "security=1"},
                                    {"waitTime=12", "waitTime=5"},

@@ -5,28 +5,68 @@
 #include "MainScreenFixture.h"
 #include "config/clsConfigDiary.h"
 #include "foundation/ProgramState.h"
+#include "foundation/VbString.h"
 #include "screen/clsDiaryScreen.h"
 
 using namespace orbidex;
 
 namespace {
 
-std::vector<std::string> childKeys(const Node* node) {
-    std::vector<std::string> keys;
-    for (const Node* child : node->Children()) keys.push_back(child->Key());
-    return keys;
-}
-
-std::vector<std::string> visibleButtons(Toolbar& bar) {
-    std::vector<std::string> keys;
-    for (long i = 1; i <= bar.Buttons.Count(); ++i)
-        if (bar.Buttons.Item(i)->Visible) keys.push_back(bar.Buttons.Item(i)->Key);
+/// The keys of the nodes, each followed by its children in brackets.
+std::string Keys(const std::vector<Node*>& nodes) {
+    std::string keys;
+    for (const Node* node : nodes) {
+        keys += (keys.empty() ? "" : " ") + node->Key();
+        if (!node->Children().empty()) keys += "(" + Keys(node->Children()) + ")";
+    }
     return keys;
 }
 
 }  // namespace
 
-class ScreenModesTest : public test::MainScreenFixture {};
+class ScreenModesTest : public test::MainScreenFixture {
+protected:
+    /// The names of the main window's views that are visible, in a fixed order.
+    std::string ShownViews() {
+        std::string shown;
+        for (Control* view :
+             std::initializer_list<Control*>{&Form().lblHeading, &Form().gridDays, &Form().lvDiary, &Form().lvCat,
+                                             &Form().MonthView1, &Form().lvUsers, &Form().lblUsers, &Form().web})
+            if (view->Visible) shown += (shown.empty() ? "" : " ") + view->Name();
+        return shown;
+    }
+    /// The tree and the shortcut bar as "name shown|hidden left+width".
+    std::string SideBars() {
+        std::string bars;
+        for (Control* bar : std::initializer_list<Control*>{&Form().tv, &Form().lvView})
+            bars += bar->Name() + (bar->Visible ? " shown " : " hidden ") + CStr(bar->Left()) + "+" +
+                    CStr(bar->Width()) + " ";
+        return bars;
+    }
+    /// The shortcut bar's items as "key 'text' icon;", then the menu of `new` as "new: text;".
+    std::string Entries() {
+        std::string entries;
+        for (long i = 1; i <= Form().lvView.ListItems.Count(); ++i) {
+            const ListItem& item = Form().lvView.ListItems(i);
+            entries += item.Key() + " '" + item.Text() + "' " + item.Icon() + "; ";
+        }
+        const Button& add = Form().Toolbar1.Buttons("new");
+        for (long i = 1; i <= add.ButtonMenuCount(); ++i) entries += "new: " + add.ButtonMenus(i)->Text() + "; ";
+        return entries;
+    }
+    /// The tool bar's visible keys, then the pressed ones after "|", then `new`'s image.
+    std::string Bar() {
+        Toolbar& bar = Form().Toolbar1;
+        std::string keys;
+        std::string pressed;
+        for (long i = 1; i <= bar.Buttons.Count(); ++i) {
+            const Button& button = *bar.Buttons.Item(i);
+            if (button.Visible) keys += button.Key() + " ";
+            if (button.Value() == tbrPressed) pressed += button.Key() + " ";
+        }
+        return keys + "| " + pressed + "| new: " + bar.Buttons("new").Image();
+    }
+};
 
 TEST_F(ScreenModesTest, TheStartShowsTheCalendar) {
     StartProgram();
@@ -36,9 +76,7 @@ TEST_F(ScreenModesTest, TheStartShowsTheCalendar) {
     // The mode's name stands in panel 2 until the calendar's totals take both panels.
     EXPECT_EQ(Panel(1), "Viewing 5-Jun-04 ");
     EXPECT_EQ(Panel(2), "0 min   spent on 0 events  ");
-    EXPECT_TRUE(Form().gridDays.Visible);
-    EXPECT_FALSE(Form().lvDiary.Visible);
-    EXPECT_FALSE(Form().web.Visible);
+    EXPECT_EQ(ShownViews(), "lblHeading gridDays lvCat MonthView1");
     EXPECT_EQ(Form().lvCat.Tag(), "TASK");
     EXPECT_EQ(Form().gridDays.BackColor(), 0xF0F4F4U);
     EXPECT_EQ(Form().tv.SelectedItem()->Key(), "CALENDAR");
@@ -64,21 +102,14 @@ TEST_F(ScreenModesTest, BarsFollowTheirSettings) {
     glbConfig.ShowFolders = "0";
     glbConfig.ShowShortCut = "0";
     glbScreen.SwitchMode("TASK");
-    EXPECT_FALSE(Form().tv.Visible);
-    EXPECT_EQ(Form().tv.Width(), 0);
-    EXPECT_FALSE(Form().lvView.Visible);
-    EXPECT_EQ(Form().lvView.Width(), 0);
-    EXPECT_EQ(Form().tv.Left(), 0);
+    EXPECT_EQ(SideBars(), "tv hidden 0+0 lvView hidden 0+0 ");
 
     glbConfig.ShowFolders = "1";
     glbConfig.ShowShortCut = "1";
     glbConfig.ShortCutSmallIcon = "1";
     glbConfig.ShowToolbar = "0";
     glbScreen.SwitchMode("NOTE");
-    EXPECT_TRUE(Form().tv.Visible);
-    EXPECT_EQ(Form().tv.Width(), 2500);
-    EXPECT_EQ(Form().lvView.Width(), 1005);
-    EXPECT_EQ(Form().tv.Left(), 1015);
+    EXPECT_EQ(SideBars(), "tv shown 1015+2500 lvView shown 0+1005 ");
     EXPECT_EQ(Form().lvView.View(), lvwList);
     EXPECT_FALSE(Form().Toolbar1.Visible);
 }
@@ -91,118 +122,76 @@ TEST_F(ScreenModesTest, HistoryAndContactsOnlySaySoAndKeepThePriorView) {
               (std::vector<std::string>{"History is not yet implemented", "Contacts are not yet implemented"}));
     EXPECT_EQ(Panel(2), "CONTACT");
     EXPECT_EQ(Form().Caption(), "Events - Brindlewick Software's Orbidex");
-    EXPECT_TRUE(Form().gridDays.Visible);
-    EXPECT_TRUE(Form().MonthView1.Visible);
+    EXPECT_EQ(ShownViews(), "lblHeading gridDays lvCat MonthView1");
     EXPECT_EQ(Form().tv.SelectedItem()->Key(), "CALENDAR");
 }
 
-TEST_F(ScreenModesTest, EachModeShowsItsOwnControlsAndTitles) {
+TEST_F(ScreenModesTest, EachModeShowsItsOwnControlsTitlesAndToolBar) {
     StartProgram();
-    glbScreen.SwitchMode("TASK");
-    EXPECT_EQ(Form().Caption(), "Tasks - Brindlewick Software's Orbidex");
-    EXPECT_EQ(Form().lblHeading.Caption(), "  Tasks");
-    EXPECT_TRUE(Form().lvCat.Visible);
-    for (Control* hidden : std::initializer_list<Control*>{&Form().gridDays, &Form().MonthView1, &Form().lvUsers,
-                                                           &Form().lblUsers, &Form().lvDiary})
-        EXPECT_FALSE(hidden->Visible) << hidden->Name();
-
-    glbScreen.SwitchMode("NOTE");
-    EXPECT_EQ(Form().Caption(), "Notes - Brindlewick Software's Orbidex");
-    EXPECT_EQ(Form().lblHeading.Caption(), "  Notes");
-
-    glbScreen.SwitchMode("MAIL");
-    EXPECT_EQ(Form().Caption(), "Messages - Brindlewick Softwares Orbidex");
-    EXPECT_EQ(Form().lblHeading.Caption(), "  Messages");
+    const std::string all =
+        "new Find delete print today days week month year showall current refresh grid list properties";
+    const struct {
+        std::string mode;
+        int days;                      ///< the view's length set before the mode is shown
+        std::string caption, heading;  ///< "-" where another test checks it or it is hidden
+        std::string views, bar;
+    } modes[] = {
+        {"CALENDAR", 7, "Events - Brindlewick Software's Orbidex", "  Events for Week beginning 31-May-2004",
+         "lblHeading gridDays lvCat MonthView1",
+         "new Find delete print today days week month grid list properties | week | new: calendar"},
+        {"TASK", 7, "Tasks - Brindlewick Software's Orbidex", "  Tasks", "lblHeading lvCat",
+         "new Find delete print year showall current grid list properties | current | new: task"},
+        {"NOTE", 7, "Notes - Brindlewick Software's Orbidex", "  Notes", "lblHeading lvCat",
+         "new Find delete print year grid list properties | | new: note"},
+        // The other modes show the whole bar, `new` with its own image.
+        {"MAIL", 7, "Messages - Brindlewick Softwares Orbidex", "  Messages", "lblHeading lvCat",
+         all + " | | new: new"},
+        {"STAFF", 31, "Staff Planner - Brindlewick Softwares Orbidex", "-",
+         "lblHeading gridDays MonthView1 lvUsers lblUsers",
+         "new Find delete print today days week month refresh grid list properties | month | new: staff"},
+        {"HOME", 31, "Home - Brindlewick Software's Orbidex", "-", "web", all + " | | new: new"},
+        {"FILE", 31, "My Files - Orbidex", "  My Files", "web", all + " | | new: new"},
+        {"WEB", 31, "-", "  WEB ", "web", all + " | | new: new"},
+    };
+    for (const auto& m : modes) {
+        SCOPED_TRACE(m.mode);
+        glbConfig.DayWeekMonth = m.days;
+        glbScreen.SwitchMode(m.mode, true);
+        if (m.caption != "-") {
+            EXPECT_EQ(Form().Caption(), m.caption);
+        }
+        if (m.heading != "-") {
+            EXPECT_EQ(Form().lblHeading.Caption(), m.heading);
+        }
+        EXPECT_EQ(ShownViews(), m.views);
+        EXPECT_EQ(Bar(), m.bar);
+    }
     // The message list of the calendar's date stands under one heading that names it.
+    glbScreen.SwitchMode("MAIL");
     ASSERT_EQ(Form().lvCat.ColumnHeaders.Count(), 1);
     EXPECT_EQ(Form().lvCat.ColumnHeaders(1).Text(), "Messages - Sat, 5-Jun-04");
     EXPECT_EQ(Form().lvCat.ListItems(1).Text(), "No messages on 5-Jun");
-
-    glbScreen.SwitchMode("STAFF");
-    EXPECT_TRUE(Form().lvUsers.Visible);
-    EXPECT_TRUE(Form().gridDays.Visible);
-    EXPECT_FALSE(Form().lvCat.Visible);
-
-    glbScreen.SwitchMode("HOME");
-    EXPECT_TRUE(Form().web.Visible);
-    for (Control* hidden : std::initializer_list<Control*>{&Form().lblHeading, &Form().lvCat, &Form().gridDays,
-                                                           &Form().MonthView1, &Form().lvDiary, &Form().lvUsers})
-        EXPECT_FALSE(hidden->Visible) << hidden->Name();
-
-    glbScreen.SwitchMode("FILE");
-    EXPECT_EQ(Form().Caption(), "My Files - Orbidex");
-    glbScreen.SwitchMode("WEB");
-    EXPECT_EQ(Form().lblHeading.Caption(), "  WEB ");
     glbScreen.SwitchMode("DRAWING - PICS");
     EXPECT_EQ(platform_.MessageTexts().back(), "TODO");
-}
-
-TEST_F(ScreenModesTest, TheToolBarFollowsTheMode) {
-    StartProgram();
-    Toolbar& bar = Form().Toolbar1;
-    glbConfig.DayWeekMonth = 7;
-    glbScreen.SwitchMode("CALENDAR", true);
-    EXPECT_EQ(visibleButtons(bar), (std::vector<std::string>{"new", "Find", "delete", "print", "today", "days", "week",
-                                                             "month", "grid", "list", "properties"}));
-    EXPECT_EQ(bar.Buttons("week").Value(), tbrPressed);
-    EXPECT_EQ(bar.Buttons("days").Value(), tbrUnpressed);
-    EXPECT_EQ(bar.Buttons("new").Image(), "calendar");
-
-    glbScreen.SwitchMode("TASK");
-    EXPECT_EQ(visibleButtons(bar), (std::vector<std::string>{"new", "Find", "delete", "print", "year", "showall",
-                                                             "current", "grid", "list", "properties"}));
-    EXPECT_EQ(bar.Buttons("current").Value(), tbrPressed);
-    EXPECT_EQ(bar.Buttons("new").Image(), "task");
-
-    glbScreen.SwitchMode("NOTE");
-    EXPECT_EQ(bar.Buttons("new").Image(), "note");
-    EXPECT_FALSE(bar.Buttons("showall").Visible);
-
-    glbConfig.DayWeekMonth = 31;
-    glbScreen.SwitchMode("STAFF");
-    EXPECT_EQ(visibleButtons(bar), (std::vector<std::string>{"new", "Find", "delete", "print", "today", "days", "week",
-                                                             "month", "refresh", "grid", "list", "properties"}));
-    EXPECT_EQ(bar.Buttons("month").Value(), tbrPressed);
-    EXPECT_EQ(bar.Buttons("new").Image(), "staff");
-
-    // The overview has Print and Options too: the bar shows whole, `new` with its own image.
-    glbScreen.SwitchMode("HOME");
-    EXPECT_EQ(visibleButtons(bar),
-              (std::vector<std::string>{"new", "Find", "delete", "print", "today", "days", "week", "month", "year",
-                                        "showall", "current", "refresh", "grid", "list", "properties"}));
-    EXPECT_EQ(bar.Buttons("new").Image(), "new");
 }
 
 TEST_F(ScreenModesTest, TheLocalKindHasNoStaffEntries) {
     StartProgram("LOCAL");
     const NodeCollection& nodes = Form().tv.Nodes;
-    ASSERT_EQ(nodes.Roots().size(), 2U);
-    EXPECT_EQ(nodes.Roots()[0]->Key(), "HOME");
-    EXPECT_EQ(nodes.Roots()[0]->Text(), "Home");
-    EXPECT_EQ(childKeys(nodes.Roots()[0]), (std::vector<std::string>{"CALENDAR", "TASK", "NOTE"}));
-    EXPECT_EQ(childKeys(nodes.Item("CALENDAR")), (std::vector<std::string>{"CALENDAR_ADDNEW", "CALENDAR_VIEWYEAR"}));
-    EXPECT_EQ(childKeys(nodes.Item("NOTE")),
-              (std::vector<std::string>{"NOTE_ADDNEW", "UnsortedNotes", "Development", "Marketing"}));
-    EXPECT_EQ(childKeys(nodes.Item("CALENDARpublic_events")),
-              (std::vector<std::string>{"public_events0", "public_events1", "public_events2"}));
     // The project nodes name a parent the tree does not have.
-    EXPECT_EQ(nodes.Item("task_Proj1"), nullptr);
+    EXPECT_EQ(Keys(nodes.Roots()),
+              "HOME(CALENDAR(CALENDAR_ADDNEW CALENDAR_VIEWYEAR) TASK(TASK_ADDNEW) NOTE(NOTE_ADDNEW UnsortedNotes "
+              "Development Marketing)) public(CALENDARpublic_events(public_events0 public_events1 public_events2) "
+              "public_contacts TASK_public public_notes)");
+    EXPECT_EQ(nodes.Roots()[0]->Text(), "Home");
     EXPECT_EQ(nodes.Item("CALENDAR")->Text(), "My Diary");
     EXPECT_EQ(nodes.Item("CALENDAR")->Image(), "calendar");
     EXPECT_EQ(nodes.Item("Marketing")->Image(), "closed");
     EXPECT_EQ(nodes.Item("Marketing")->ExpandedImage(), "open");
     EXPECT_EQ(nodes.Item("public_events0")->Text(), "[company] Events");
-
-    ListItemCollection& shortcuts = Form().lvView.ListItems;
-    ASSERT_EQ(shortcuts.Count(), 4);
-    EXPECT_EQ(shortcuts(2).Key(), "CALENDAR");
-    EXPECT_EQ(shortcuts(2).Text(), "My Diary");
-    EXPECT_EQ(shortcuts(2).Icon(), "clock");
-    EXPECT_EQ(shortcuts(3).Icon(), "bridge");
-
-    Button& add = Form().Toolbar1.Buttons("new");
-    ASSERT_EQ(add.ButtonMenuCount(), 3);
-    EXPECT_EQ(add.ButtonMenus(3)->Text(), "Note");
+    EXPECT_EQ(Entries(),
+              "HOME 'Home' overview; CALENDAR 'My Diary' clock; TASK 'Tasks' bridge; NOTE 'Notes' note; "
+              "new: Event; new: Task; new: Note; ");
     // Nor a menu entry that leads to the staff planner or books a meeting.
     EXPECT_FALSE(Form().mnuAppPlanMeeting.Visible);
     EXPECT_FALSE(Form().mnuViewMode[5].Visible);
@@ -210,15 +199,13 @@ TEST_F(ScreenModesTest, TheLocalKindHasNoStaffEntries) {
 
 TEST_F(ScreenModesTest, TheClientKindHasTheStaffEntriesAndShowsTheServerState) {
     StartProgram("CLIENT");
-    EXPECT_EQ(childKeys(Form().tv.Nodes.Item("HOME")), (std::vector<std::string>{"CALENDAR", "TASK", "NOTE", "STAFF"}));
-    EXPECT_EQ(childKeys(Form().tv.Nodes.Item("STAFF")), (std::vector<std::string>{"STAFF_BOOKMEETING"}));
-    ListItemCollection& shortcuts = Form().lvView.ListItems;
-    ASSERT_EQ(shortcuts.Count(), 5);
-    EXPECT_EQ(shortcuts(5).Text(), "Staff");
-    EXPECT_EQ(shortcuts(5).Icon(), "meeting");
-    Button& add = Form().Toolbar1.Buttons("new");
-    ASSERT_EQ(add.ButtonMenuCount(), 4);
-    EXPECT_EQ(add.ButtonMenus(4)->Text(), "Meeting");
+    EXPECT_EQ(Keys(Form().tv.Nodes.Roots()),
+              "HOME(CALENDAR(CALENDAR_ADDNEW CALENDAR_VIEWYEAR) TASK(TASK_ADDNEW) NOTE(NOTE_ADDNEW UnsortedNotes "
+              "Development Marketing) STAFF(STAFF_BOOKMEETING)) public(CALENDARpublic_events(public_events0 "
+              "public_events1 public_events2) public_contacts TASK_public public_notes)");
+    EXPECT_EQ(Entries(),
+              "HOME 'Home' overview; CALENDAR 'My Diary' clock; TASK 'Tasks' bridge; NOTE 'Notes' note; "
+              "STAFF 'Staff' meeting; new: Event; new: Task; new: Note; new: Meeting; ");
     EXPECT_TRUE(Form().mnuAppPlanMeeting.Visible);
     EXPECT_EQ(Form().mnuViewMode[5].Caption(), "&Staff Planner");
     EXPECT_TRUE(Form().mnuViewMode[5].Visible);
@@ -230,17 +217,13 @@ TEST_F(ScreenModesTest, TheClientKindHasTheStaffEntriesAndShowsTheServerState) {
 TEST_F(ScreenModesTest, TheToolBarButtonsHaveTheirCaptionsAndTips) {
     StartProgram();
     ButtonCollection& buttons = Form().Toolbar1.Buttons;
-    ASSERT_EQ(buttons.Count(), 15);
-    const std::vector<std::pair<std::string, std::string>> expected = {
-        {"new", "New     "},   {"Find", "Find    "},    {"delete", "Delete  "},      {"print", "Print   "},
-        {"today", "Today   "}, {"days", "Day     "},    {"week", "Week    "},        {"month", "Month   "},
-        {"year", "Year    "},  {"showall", "All     "}, {"current", "Current "},     {"refresh", "Server  "},
-        {"grid", "Grid   "},   {"list", "List   "},     {"properties", "Options  "},
-    };
-    for (long i = 1; i <= buttons.Count(); ++i) {
-        EXPECT_EQ(buttons.Item(i)->Key(), expected[static_cast<size_t>(i - 1)].first);
-        EXPECT_EQ(buttons.Item(i)->Caption(), expected[static_cast<size_t>(i - 1)].second);
-    }
+    std::string captions;
+    for (long i = 1; i <= buttons.Count(); ++i)
+        captions += buttons.Item(i)->Key() + "='" + buttons.Item(i)->Caption() + "' ";
+    EXPECT_EQ(captions,
+              "new='New     ' Find='Find    ' delete='Delete  ' print='Print   ' today='Today   ' days='Day     ' "
+              "week='Week    ' month='Month   ' year='Year    ' showall='All     ' current='Current ' "
+              "refresh='Server  ' grid='Grid   ' list='List   ' properties='Options  ' ");
     EXPECT_EQ(buttons("today").ToolTipText(), "Go to Todays date");
     EXPECT_TRUE(Form().Toolbar1.ShowCaptions);
     glbConfig.ShowToolbarText = "0";

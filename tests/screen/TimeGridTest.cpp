@@ -20,6 +20,12 @@ protected:
         return E("20040607", time, details, length);
     }
     static std::pair<OleColor, OleColor> colours(long row, long col) { return {Fore(row, col), Back(row, col)}; }
+    /// A click on a cell as "<first panel> | blank" or "<first panel> | <gintcur> <event's identifier>".
+    static std::string clicked(long row, long col) {
+        bool blank = false;
+        const std::string panel = Click(row, col, &blank);
+        return panel + " | " + (blank ? "blank" : std::to_string(gintcur) + " " + gCurrentEvent.ID);
+    }
 };
 
 TEST_F(TimeGridTest, TheDayViewHasARowPerHalfHourLabelledByHourAndMinutes) {
@@ -196,46 +202,35 @@ TEST_F(TimeGridTest, FileEventsAreListedApartOrPlacedInTheirOwnColours) {
 
 TEST_F(TimeGridTest, AClickFindsTheCellsEventOrTellsWhatTheCellHolds) {
     const Event first = monday("0945", "Dentist");
-    Show(June(7), {first, monday("1500", "Dentist", ""), monday("1000", "Long", "90"), monday("1200", "one"),
-                   monday("1200", "two")});
-    bool blank = false;
-    EXPECT_EQ(Click(1, 2, &blank), "Blank Timeslot on 7-Jun-2004 at 0900");
-    EXPECT_TRUE(blank);
-    EXPECT_EQ(Click(4, 2, &blank), "Blank Timeslot on 7-Jun-2004 at 1030") << "a shaded cell is free";
-    EXPECT_TRUE(blank);
-
+    const Event worked = monday("1500", "Dentist", "");
+    Show(June(7), {first, worked, monday("1000", "Long", "90"), monday("1200", "one"), monday("1200", "two")});
+    EXPECT_EQ(clicked(1, 2), "Blank Timeslot on 7-Jun-2004 at 0900 | blank");
+    EXPECT_EQ(clicked(4, 2), "Blank Timeslot on 7-Jun-2004 at 1030 | blank") << "a shaded cell is free";
     // The day view finds the event by the identifier its row keeps.
-    EXPECT_EQ(Click(2, 2, &blank), "At 0945 on 20040607 spent 30 minutes on ''Dentist'");
-    EXPECT_FALSE(blank);
-    EXPECT_EQ(std::make_pair(gintcur, gCurrentEvent.ID), std::make_pair(int16_t{0}, first.id));
-    EXPECT_EQ(Click(13, 2), "At 1500 on 20040607 worked on ''Dentist'");
-    EXPECT_EQ(Click(7, 2), "Multiple Events for 7-Jun-2004 at 1200");
-    EXPECT_EQ(std::make_pair(gintcur, gCurrentEvent.ID), std::make_pair(int16_t{-1}, std::string()));
+    EXPECT_EQ(clicked(2, 2), "At 0945 on 20040607 spent 30 minutes on ''Dentist' | 0 " + first.id);
+    EXPECT_EQ(clicked(13, 2), "At 1500 on 20040607 worked on ''Dentist' | 1 " + worked.id);
+    EXPECT_EQ(clicked(7, 2), "Multiple Events for 7-Jun-2004 at 1200 | -1 ");
     EXPECT_TRUE(Logged("GetEventFromGrid AFTER: gintcur=-1"));
 
     // Other views look the event up by date, slot and text: with no "Dentist" at 0930
     // the last of the day is taken.
     View("7");
     Draw(June(7));
-    EXPECT_EQ(Click(2, 2), "At 1500 on 20040607 worked on ''Dentist'");
-    EXPECT_EQ(Click(1, 3), "Blank Timeslot on 8-Jun-2004 at 0900");
+    EXPECT_EQ(clicked(2, 2), "At 1500 on 20040607 worked on ''Dentist' | 1 " + worked.id);
+    EXPECT_EQ(clicked(1, 3), "Blank Timeslot on 8-Jun-2004 at 0900 | blank");
     View("31");
     Draw(June(7));
-    EXPECT_EQ(Click(1, 2), "Blank Timeslot on 31-May-2004 at 0900");
+    EXPECT_EQ(clicked(1, 2), "Blank Timeslot on 31-May-2004 at 0900 | blank");
 
     // Over ten days a column reports the day before for a blank cell, but an event is
     // found on the day the column shows its events for, the 1st included.
     const Event sunday = E("20040606", "0945", "Dentist");
     const Event standup = E("20040601", "0900", "Standup");
     Show(June(7), {standup, sunday, first});
-    EXPECT_EQ(Click(2, 8), "At 0945 on 20040607 spent 30 minutes on ''Dentist'");
-    EXPECT_EQ(gCurrentEvent.ID, first.id);
-    EXPECT_EQ(Click(2, 7), "At 0945 on 20040606 spent 30 minutes on ''Dentist'");
-    EXPECT_EQ(gCurrentEvent.ID, sunday.id);
-    EXPECT_EQ(Click(1, 2), "At 0900 on 20040601 spent 30 minutes on ''Standup'");
-    EXPECT_EQ(gCurrentEvent.ID, standup.id);
+    EXPECT_EQ(clicked(2, 8), "At 0945 on 20040607 spent 30 minutes on ''Dentist' | 2 " + first.id);
+    EXPECT_EQ(clicked(2, 7), "At 0945 on 20040606 spent 30 minutes on ''Dentist' | 1 " + sunday.id);
+    EXPECT_EQ(clicked(1, 2), "At 0900 on 20040601 spent 30 minutes on ''Standup' | 0 " + standup.id);
     View("14");
     Draw(June(7));
-    EXPECT_EQ(Click(2, 8), "At 0945 on 20040607 spent 30 minutes on ''Dentist'");
-    EXPECT_EQ(gCurrentEvent.ID, first.id);
+    EXPECT_EQ(clicked(2, 8), "At 0945 on 20040607 spent 30 minutes on ''Dentist' | 2 " + first.id);
 }
