@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QTextEdit>
+#include <map>
 
 #include "EventLines.h"
 #include "ProgramWindowFixture.h"
@@ -21,41 +22,26 @@
 
 using namespace orbidex;
 
-namespace {
-
-std::string eventLine(const std::string& id, const std::string& date, const std::string& time,
-                      const std::string& details) {
-    return test::EventLine(id, date, time, details, "Office") + "\r\n";
-}
-
-}  // namespace
-
 class ExportAndScratchPadWindowTest : public test::ProgramWindowFixture {
 protected:
     void WriteData() override {
-        const struct {
-            const char* month;
-            std::vector<std::string> lines;
-        } months[] = {
-            {"200311", {eventLine("D200311100001", "20031110", "1000", "Annual review")}},
-            {"200405",
-             {eventLine("D200405030001", "20040503", "0900", "Bank holiday walk"),
-              eventLine("D200405200001", "20040520", "1400", "Dentist")}},
-            {"200406",
-             {eventLine("D200406010001", "20040601", "0900", "Team stand-up"),
-              eventLine("D200406010002", "20040601", "1230", "Lunch with Ann & Bob at the Cafe Rouge"),
-              eventLine("D200406040001", "20040604", "1500", "Quarterly figures to the board"),
-              eventLine("D200406050001", "20040605", "1000", "Garden centre"),
-              eventLine("D200406070001", "20040607", "0830", "Car to the garage"),
-              eventLine("D200406070002", "20040607", "1400", "Call the bank about the loan"),
-              eventLine("D200406150001", "20040615", "1900", "Choir practice")}},
-            {"200407", {eventLine("D200407020001", "20040702", "1100", "Summer fair")}},
+        const char* const events[][4] = {
+            {"D200311100001", "20031110", "1000", "Annual review"},
+            {"D200405030001", "20040503", "0900", "Bank holiday walk"},
+            {"D200405200001", "20040520", "1400", "Dentist"},
+            {"D200406010001", "20040601", "0900", "Team stand-up"},
+            {"D200406010002", "20040601", "1230", "Lunch with Ann & Bob at the Cafe Rouge"},
+            {"D200406040001", "20040604", "1500", "Quarterly figures to the board"},
+            {"D200406050001", "20040605", "1000", "Garden centre"},
+            {"D200406070001", "20040607", "0830", "Car to the garage"},
+            {"D200406070002", "20040607", "1400", "Call the bank about the loan"},
+            {"D200406150001", "20040615", "1900", "Choir practice"},
+            {"D200407020001", "20040702", "1100", "Summer fair"},
         };
-        for (const auto& month : months) {
-            std::string bytes;
-            for (const std::string& line : month.lines) bytes += line;
-            WriteWholeFile(data_ + "D" + month.month + ".dat", bytes);
-        }
+        std::map<std::string, std::string> months;  // "200406" -> the lines of D200406.dat
+        for (const auto& [id, date, time, details] : events)
+            months[std::string(date, 6)] += test::EventLine(id, date, time, details, "Office") + "\r\n";
+        for (const auto& [month, lines] : months) WriteWholeFile(data_ + "D" + month + ".dat", lines);
     }
 };
 

@@ -91,12 +91,10 @@ TEST_F(PrintTest, TheListPrintsItsHeadingsAndRows) {
 
 TEST_F(PrintTest, EachModePrintsToItsOwnFile) {
     StartProgram();
-    glbScreen.SwitchMode("TASK");
-    glbCmd.CommandPrint();
-    glbScreen.SwitchMode("NOTE");
-    glbCmd.CommandPrint();
-    glbScreen.SwitchMode("STAFF");
-    glbCmd.CommandPrint();
+    for (const char* mode : {"TASK", "NOTE", "STAFF"}) {
+        glbScreen.SwitchMode(mode);
+        glbCmd.CommandPrint();
+    }
     std::vector<std::string> headings;
     for (const PrintDocument& printed : platform_.Printed()) headings.push_back(printed.heading);
     // Each page is headed as the view is; no server answers the staff planner here.
@@ -104,9 +102,8 @@ TEST_F(PrintTest, EachModePrintsToItsOwnFile) {
               (std::vector<std::string>{
                   "Tasks", "Notes",
                   "Staff Events for Saturday,  5-Jun-2004   (the server did not answer: its last answer is shown)"}));
-    EXPECT_TRUE(FileExists(DataPath() + "fred Tasks.htm"));
-    EXPECT_TRUE(FileExists(DataPath() + "Staff.htm"));
-    EXPECT_TRUE(FileExists(DataPath() + "fred Notes.htm"));
+    for (const char* file : {"fred Tasks.htm", "Staff.htm", "fred Notes.htm"})
+        EXPECT_TRUE(FileExists(DataPath() + file)) << file;
 
     glbScreen.SwitchMode("MESSAGE");
     glbCmd.CommandPrint();

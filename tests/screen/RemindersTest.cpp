@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <map>
 #include <string>
 #include <vector>
@@ -33,12 +32,6 @@ std::string eventLine(const std::string& id, const std::string& time, const std:
            "\r\n";
 }
 
-std::string taskLine(const std::string& id, const std::string& time, const std::string& details,
-                     const std::string& remindTime) {
-    return Fields({id, "20040605", "", time, "60", "", "", "", "", "20040605", remindTime, "", "", "", details}) +
-           "\r\n";
-}
-
 std::string hhmm(int minuteOfDay) {
     return FormatHHMM(minuteOfDay / 60, minuteOfDay % 60);
 }
@@ -59,6 +52,15 @@ protected:
         platform_.SetNow(when);
         Form().timerSecond.Tick();
     }
+    /// A first start at `when` on a month of one event of today reminded of at `remindTime`:
+    /// no settings, nothing reminded yet.
+    void StartWithReminder(const std::string& time, const std::string& details, const std::string& remindTime,
+                           VbDate when) {
+        DeleteFile(DataPath() + "reminded.log");
+        DeleteFile(DataPath() + "orbidex.ini");
+        WriteBytes(DataPath() + "D200406.dat", eventLine("D200406050001", time, details, "20040605", remindTime));
+        StartAt(when);
+    }
     std::vector<std::string> Reminded() { return SplitLines(ReadBytes(DataPath() + "reminded.log")); }
     long NotesShown() {
         const auto forms = platform_.FormsShown();
@@ -74,9 +76,8 @@ TEST_F(RemindersTest, ADayMinuteByMinuteShowsEachReminderOnceAtItsMinuteThroughA
     for (int i = 0; i < 20; ++i) {
         const int minute = 7 * 60 + i * 41 + (i == 19 ? -41 : 0);  // the last shares the minute of the one before
         const std::string details = "Event " + std::to_string(i);
-        char id[16];
-        std::snprintf(id, sizeof id, "D20040605%04d", i + 1);
-        month += eventLine(id, hhmm(minute + 15), details, "20040605", hhmm(minute));
+        month +=
+            eventLine("D20040605" + FormatNumber(i + 1, "0000"), hhmm(minute + 15), details, "20040605", hhmm(minute));
         due["20040605 " + hhmm(minute + 15) + " " + details] = minute;
     }
     month += eventLine("D200406050030", "1000", "Reminder yesterday", "20040604", "1000");
@@ -91,9 +92,9 @@ TEST_F(RemindersTest, ADayMinuteByMinuteShowsEachReminderOnceAtItsMinuteThroughA
         // One at the minute of the restart below, one at the day's last minute.
         const int minute = i == 4 ? 10 * 60 : i == 9 ? 24 * 60 - 1 : 30 + i * 137;
         const std::string details = "Task " + std::to_string(i);
-        char id[16];
-        std::snprintf(id, sizeof id, "N20040605%04d", i + 1);
-        tasks += taskLine(id, "0800", details, hhmm(minute));
+        tasks += Fields({"N20040605" + FormatNumber(i + 1, "0000"), "20040605", "", "0800", "60", "", "", "", "",
+                         "20040605", hhmm(minute), "", "", "", details}) +
+                 "\r\n";
         due["20040605 0800 " + details] = minute;
     }
     WriteBytes(DataPath() + "D_tasks.dat", tasks);
@@ -126,9 +127,8 @@ TEST_F(RemindersTest, ADayMinuteByMinuteShowsEachReminderOnceAtItsMinuteThroughA
         LogHas("Event '20040605 0800 Task 4' was attempted to be reminded when it has already been acknowledged"));
     EXPECT_EQ(static_cast<long>(Reminded().size()), 30);
     EXPECT_EQ(platform_.BeepCount(), 30);
-    EXPECT_EQ(StickyNote().Caption(), "Reminder for 0800");
-    EXPECT_EQ(StickyNote().lblNote.Caption(), "Saturday, 5 June 2004  at 08:00");
-    EXPECT_EQ(StickyNote().txtNote.Text(), "Task 9");
+    EXPECT_EQ(StickyNote().Caption() + " | " + StickyNote().lblNote.Caption() + " | " + StickyNote().txtNote.Text(),
+              "Reminder for 0800 | Saturday, 5 June 2004  at 08:00 | Task 9");
     EXPECT_EQ(glbConfig.GetValue("diary", "TimeRemindersLastChecked"), "2359");
     EXPECT_EQ(glbConfig.GetValue("diary", "DateRemindersLastChecked"), "20040605");
 }
@@ -151,10 +151,7 @@ TEST_F(RemindersTest, AReminderAtHalfPastTwoComesOnceWhateverTheClockDoes) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.night);
-        DeleteFile(DataPath() + "reminded.log");
-        DeleteFile(DataPath() + "orbidex.ini");
-        WriteBytes(DataPath() + "D200406.dat", eventLine("D200406050001", "0300", "Feed the cat", "20040605", "0230"));
-        StartAt(kDay + TimeSerial(1, 50, 0));
+        StartWithReminder("0300", "Feed the cat", "0230", kDay + TimeSerial(1, 50, 0));
         for (size_t i = 0; i < c.ticks.size(); ++i) {
             const int t = c.ticks[i];
             const long before = NotesShown();
@@ -178,17 +175,12 @@ TEST_F(RemindersTest, TheSettingsDecideBeepAndNoteAndTheLogLevelWhetherItIsRemem
         {"1", "1", "3", 1, 1, 1}, {"0", "0", "3", 0, 0, 1}, {"1", "0", "3", 1, 0, 1}, {"0", "1", "2", 0, 2, 0}};
     for (const Case& c : cases) {
         SCOPED_TRACE(std::string("sound=") + c.sound + " popupwindow=" + c.popupwindow + " loglevel=" + c.loglevel);
-        DeleteFile(DataPath() + "reminded.log");
-        DeleteFile(DataPath() + "orbidex.ini");
-        WriteBytes(DataPath() + "D200406.dat", eventLine("D200406050001", "1000", "Call Ann", "20040605", "0931"));
-        StartAt(kDay + TimeSerial(9, 30, 30));
+        StartWithReminder("1000", "Call Ann", "0931", kDay + TimeSerial(9, 30, 30));
         glbConfig.SetVal("reminders", "sound", c.sound);
         glbConfig.SetVal("reminders", "popupwindow", c.popupwindow);
         gLogLevel = static_cast<int16_t>(Val(c.loglevel));
         const long beeps = platform_.BeepCount(), notes = NotesShown();
-        TickAt(kDay + TimeSerial(9, 31, 0));
-        TickAt(kDay + TimeSerial(9, 32, 0));
-        TickAt(kDay + TimeSerial(9, 33, 0));
+        for (const int minute : {31, 32, 33}) TickAt(kDay + TimeSerial(9, minute, 0));
         EXPECT_EQ(platform_.BeepCount() - beeps, c.beeps);
         EXPECT_EQ(NotesShown() - notes, c.notes);
         EXPECT_EQ(static_cast<long>(Reminded().size()), c.remembered);
