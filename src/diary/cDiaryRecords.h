@@ -200,9 +200,6 @@ public:
                                const std::string& keyword);
     /// Makes the clicked cell's event the current one; true for a blank cell.
     bool GetEventFromGrid(FlexGrid& grid, MonthView& calendar, StatusBar& statusBar);
-    /// The day whose events column `col` of a grid of several days shows: in views of
-    /// many days the column's data (and heading) is the day before.
-    static VbDate EventsDayOfColumn(const FlexGrid& grid, long col);
     /// Moves the view to `date`, loading what it needs.
     void CalendarDateClicked(frmClientDiaryMain& form, VbDate date);
     /// The raw lines of the month's file without the file events; returns their count.

@@ -189,6 +189,13 @@ bool isPrivate(const cDiaryRecord& event) {
     return event.status == "Private";
 }
 
+/// The day whose events column `col` shows: its data is the day before in views of
+/// many days.
+VbDate eventsDayOfColumn(const FlexGrid& grid, long col) {
+    const VbDate data = grid.ColData(col);
+    return grid.Cols - 2 > kDaysWithShiftedHeading ? data + 1 : data;
+}
+
 }  // namespace
 
 void cDiaryRecords::InitGridForTimedSchedule(clsTimeSlots& slots, FlexGrid& grid, VbDate startDate, int days,
@@ -290,11 +297,6 @@ void cDiaryRecords::placeEventInGrid(const cDiaryRecord& event, clsTimeSlots& sl
     if (isPrivate(event)) grid.CellForeColor = vbGrayText;
 }
 
-VbDate cDiaryRecords::EventsDayOfColumn(const FlexGrid& grid, long col) {
-    const VbDate data = grid.ColData(col);
-    return grid.Cols - 2 > kDaysWithShiftedHeading ? data + 1 : data;
-}
-
 long cDiaryRecords::SelectDiaryRecordFromDayViewRow(const FlexGrid& grid, long row, long col) {
     // The row keeps only the identifier's last eight digits and the view gives the
     // year, so an event entered in another year than its own names some other event.
@@ -325,7 +327,7 @@ bool cDiaryRecords::GetEventFromGrid(FlexGrid& grid, MonthView& calendar, Status
         long index = -1;
         // In day view the row names its event; a cell of several events names none.
         if (dayView) index = SelectDiaryRecordFromDayViewRow(grid, row, col);
-        if (index < 0) index = SelectDiaryRecordIndex(EventsDayOfColumn(grid, col), slotTime, text);
+        if (index < 0) index = SelectDiaryRecordIndex(eventsDayOfColumn(grid, col), slotTime, text);
         index = AsCurrentIndex(index);
         if (index >= 0) {
             currentGridRow_ = row;

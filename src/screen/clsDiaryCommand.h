@@ -223,8 +223,7 @@ private:
     void addEventFromToolbar();
     /// In calendar mode, the calendar drawn again for its date from the events in memory.
     void redrawCalendar();
-    /// The date of the grid's selected cell: the view's day, or the day whose events
-    /// its column shows.
+    /// The date of the grid's selected cell: the view's day, or the column's date.
     VbDate selectedCellDate() const;
     /// Enables the pop-up menu's entries that act on the current event when there is
     /// one, and with `menuBarToo` those of the Appointments menu.

@@ -58,8 +58,8 @@ void clsDiaryCommand::MoveSelectedTaskToEvent(ListView& list, FlexGrid& grid) {
     // A task line reads as an event: its first fifteen fields are an event's.
     cDiaryRecord event;
     event.GetDiaryRecordFromText(item->Tag);
-    const VbDate day = grid.Cols == 3 ? static_cast<VbDate>(form_->MonthView1.Value)
-                                      : cDiaryRecords::EventsDayOfColumn(grid, grid.Col);
+    const VbDate day =
+        grid.Cols == 3 ? static_cast<VbDate>(form_->MonthView1.Value) : static_cast<VbDate>(grid.ColData(grid.Col));
     event.DateEvent = FormatDate(day, "yyyymmdd");
     event.TimeEvent = CalendarTimeSlots().hhmmGet(grid.Row);
     // Appended to its month's file under the next identifier of that file.

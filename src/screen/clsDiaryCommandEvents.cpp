@@ -17,7 +17,7 @@ namespace orbidex {
 VbDate clsDiaryCommand::selectedCellDate() const {
     const FlexGrid& grid = form_->gridDays;
     if (glbConfig.DayWeekMonth == 1) return form_->MonthView1.Value;
-    return cDiaryRecords::EventsDayOfColumn(grid, grid.Col);
+    return static_cast<VbDate>(grid.ColData(grid.Col));
 }
 
 void clsDiaryCommand::redrawCalendar() {

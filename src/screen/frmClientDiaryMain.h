@@ -259,8 +259,7 @@ private:
     /// Makes the cell under the pointer the grid's current one; false when it is no
     /// time slot of a day.
     bool currentCellFromPointer();
-    /// The day whose events the grid's current column shows: the calendar's in the day
-    /// view.
+    /// The day of the grid's current column: the calendar's in the day view.
     VbDate currentCellDay();
     /// The calendar drawn again for its date, with the months it shows loaded.
     void redrawAfterDrop();

@@ -90,7 +90,7 @@ bool frmClientDiaryMain::currentCellFromPointer() {
 
 VbDate frmClientDiaryMain::currentCellDay() {
     return gridDays.Cols == 3 ? static_cast<VbDate>(MonthView1.Value)
-                              : cDiaryRecords::EventsDayOfColumn(gridDays, gridDays.Col);
+                              : static_cast<VbDate>(gridDays.ColData(gridDays.Col));
 }
 
 void frmClientDiaryMain::redrawAfterDrop() {
