@@ -39,15 +39,17 @@ public:
     // Work from other users
     /// One line of _4CLIENT.ADD: the event goes into its month's file under a new
     /// identifier, is noted in the message log, answered with "RECEIVED:" to its
-    /// booker, and the month is handed back to the server.
+    /// booker, and the month is handed back to the server.  An event the month's
+    /// file does not take is only logged.
     void AddEventFromRemoteUser(const std::string& line);
     /// Each record of the file `name` (a bare name in the network folder) cancels or
     /// changes a meeting, tells the user and answers the partner; then the file and
     /// its ".OK" are deleted.  False when it could not be read.
     bool EventChangedByAnotherUser(const std::string& name);
     /// Takes every event of the same date, time and details out of its month's file
-    /// (kept before as ".BAK"), noting each in deleted_events.txt.
-    void DeleteEventFromAnywhere(const cDiaryRecord& record);
+    /// (kept before as ".BAK"), noting each in deleted_events.txt.  Gives the lines
+    /// taken out, each with its line end; none when the file was not rewritten.
+    std::string DeleteEventFromAnywhere(const cDiaryRecord& record);
 
     // Messages
     /// Each message of the file `name` goes to the chat window, or rings and waits

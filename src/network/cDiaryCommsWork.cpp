@@ -1,6 +1,9 @@
 // What the work of other users does to the local diary: a meeting booked by another
 // user goes into its month, a changed one moves, a cancelled one goes; each is
 // answered to its partner, and a changed month is handed back to the server.
+#include <optional>
+#include <string>
+
 #include "config/clsConfigDiary.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/DateHelpers.h"
@@ -36,13 +39,17 @@ cDiaryRecord recordOf(const std::string& line) {
 }
 
 // Appends the event to the file of its month under a new identifier (the sender's
-// means nothing here: the append gives it) and gives that file.  The append's test
-// for an event that is there already runs against that month.
-std::string addToItsMonth(cDiaryRecord& record) {
+// means nothing here: the append gives it) and gives that file, or nothing when the
+// append did not write it (`what` names the event in the log then).  The append's
+// test for an event that is there already runs against that month.
+std::optional<std::string> addToItsMonth(const std::string& what, cDiaryRecord& record) {
     const std::string file = glbEvents.GetDiaryFileNameForDate(DateFromYYYYMMDD(record.DateEvent));
     gStrDiaryDataFile = file;
-    glbEvents.AddDiaryRecord(record, false, true);
-    return file;
+    if (glbEvents.AddDiaryRecord(record, false, true)) return file;
+    glbLog.log(what + " could not be written to " + file + ", it is not answered: " + record.DateEvent + " " +
+                   record.TimeEvent + " " + record.details,
+               0);
+    return std::nullopt;
 }
 
 void meetingCancelled(const ChangeRecord& change, const cDiaryRecord& old) {
@@ -58,6 +65,16 @@ void meetingCancelled(const ChangeRecord& change, const cDiaryRecord& old) {
     glbDiaryComms.DeleteEventFromAnywhere(old);
 }
 
+void putBack(const cDiaryRecord& old, const std::string& takenOut) {
+    if (takenOut.empty()) return;
+    const std::string file = glbEvents.GetDiaryFileNameForDate(DateFromYYYYMMDD(old.DateEvent));
+    const std::string what = old.DateEvent + " " + old.TimeEvent + " " + old.details;
+    if (AppendToFile(file, takenOut))
+        glbLog.log("The meeting as it was is put back into " + file + ": " + what, 0);
+    else
+        glbLog.log("The meeting as it was could not be put back into " + file + ": " + what, 0);
+}
+
 // A change to a day that does not exist leaves the meeting where it is.
 void meetingChanged(const ChangeRecord& change, const cDiaryRecord& old, cDiaryRecord changed) {
     if (!isDiaryDay(changed.DateEvent)) return notAdded("A changed meeting", changed);
@@ -65,9 +82,15 @@ void meetingChanged(const ChangeRecord& change, const cDiaryRecord& old, cDiaryR
                              old.DateEvent + " at " + old.TimeEvent + " to " + changed.DateEvent + " at " +
                              changed.TimeEvent + "\r\n\r\n";
     ShowPopupMessage(text, "Change of Meeting");
-    glbDiaryComms.DeleteEventFromAnywhere(old);
-    const std::string file = addToItsMonth(changed);
-    glbComms.SaveDiaryFileToServer(file, true);
+    // Taken out first: an append first would be taken out again when the date, the
+    // time and the text stay.  When the append fails the old meeting goes back.
+    const std::string takenOut = glbDiaryComms.DeleteEventFromAnywhere(old);
+    const std::optional<std::string> file = addToItsMonth("A changed meeting", changed);
+    if (!file) {
+        putBack(old, takenOut);
+        return;
+    }
+    glbComms.SaveDiaryFileToServer(*file, true);
     glbComms.TransmitText(change.user, "CONFIRM: meeting details changed");
 }
 
@@ -76,13 +99,14 @@ void meetingChanged(const ChangeRecord& change, const cDiaryRecord& old, cDiaryR
 void cDiaryComms::AddEventFromRemoteUser(const std::string& line) {
     cDiaryRecord record = recordOf(line);
     if (!isDiaryDay(record.DateEvent)) return notAdded("A meeting", record);
-    const std::string file = addToItsMonth(record);
+    const std::optional<std::string> file = addToItsMonth("A meeting", record);
+    if (!file) return;
     // The booker is the partner of the answer.
     CreateMessageLogEntry(record.ContactID, "EV", "added event to your database :" + record.details);
     glbMessageWaiting = true;
     glbComms.TransmitText(record.ContactID, "RECEIVED: Meeting request for " + record.DateEvent + " at " +
                                                 record.TimeEvent + " : " + record.details);
-    glbComms.SaveDiaryFileToServer(file, true);
+    glbComms.SaveDiaryFileToServer(*file, true);
 }
 
 bool cDiaryComms::EventChangedByAnotherUser(const std::string& name) {
@@ -102,7 +126,7 @@ bool cDiaryComms::EventChangedByAnotherUser(const std::string& name) {
 }
 
 // The file is rewritten whole in one step: a failure on the way leaves it as it was.
-void cDiaryComms::DeleteEventFromAnywhere(const cDiaryRecord& record) {
+std::string cDiaryComms::DeleteEventFromAnywhere(const cDiaryRecord& record) {
     const std::string file = glbEvents.GetDiaryFileNameForDate(DateFromYYYYMMDD(record.DateEvent));
     const std::string backup = file + ".BAK";
     DeleteFile(backup);
@@ -112,23 +136,26 @@ void cDiaryComms::DeleteEventFromAnywhere(const cDiaryRecord& record) {
     if (ReadWholeFile(file, bytes)) {
         const std::string deletedLog = platform().ProgramFolder() + "\\data\\deleted_events.txt";
         std::string kept;
+        std::string takenOut;
         for (const std::string& line : SplitLines(bytes)) {
             const cDiaryRecord event = recordOf(line);
             if (event.DateEvent == record.DateEvent && event.TimeEvent == record.TimeEvent &&
                 event.details == record.details) {
                 glbLog.log("Deleting this record :" + line, 0);
                 glbLog.pimlog(deletedLog, line, 0, 0);
+                takenOut += line + "\r\n";
             } else {
                 kept += line + "\r\n";
             }
         }
-        if (WriteWholeFile(file + "._TEMP", kept, &error) && WriteWholeFile(file, kept, &error)) return;
+        if (WriteWholeFile(file + "._TEMP", kept, &error) && WriteWholeFile(file, kept, &error)) return takenOut;
     } else {
         error.description = "the file cannot be read";
     }
     glbLog.log("Error in errorTessalineDeleteEvent - " + error.description + " fname=" + file +
                    " diary.dataPath=" + gStrDataPath,
                0);
+    return {};
 }
 
 }  // namespace orbidex

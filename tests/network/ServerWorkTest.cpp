@@ -211,3 +211,30 @@ TEST_F(ServerWorkTest, BrokenWorkFromTheServerNeverCostsALocalEvent) {
         EXPECT_FALSE((glbDiaryComms.*vanished)("_4CLIENT.GONE"));
     EXPECT_FALSE(glbComms.GetEventAddedByAnotherUser("_4CLIENT.GONE"));
 }
+
+TEST_F(ServerWorkTest, AMeetingTheTargetMonthCannotTakeStaysAsItWasAndIsNotAnswered) {
+    As("mary");
+    const std::string june = Data("mary") + "D200406.dat";
+    const std::string july = Data("mary") + "D200407.dat";
+    const std::string inJune = meeting("D200406100001", "20040610", "1400");
+    const std::string marysJune = inJune + "\r\n" + kMarysOwn;
+    WriteBytes(june, marysJune);
+    ASSERT_TRUE(MakeFolder(july));
+
+    // A booking for July and a move of the June meeting to July: neither is written.
+    WriteBytes(UserFolder("mary") + "_4CLIENT.ADD", meeting("", "20040702", "0930") + "\r\n");
+    MarysPoll();
+    FredChanges(meeting("D200406040003", "20040610", "1400"), meeting("D200406040003", "20040715", "1100"));
+    MarysPoll();
+    EXPECT_EQ(ReadBytes(june), kMarysOwn + inJune + "\r\n") << "taken out and put back";
+    EXPECT_TRUE(FolderExists(july));
+    EXPECT_TRUE(
+        LogHas("A meeting could not be written to " + july + ", it is not answered: 20040702 0930 Budget meeting"));
+    EXPECT_TRUE(LogHas("A changed meeting could not be written to " + july +
+                       ", it is not answered: 20040715 1100 Budget meeting"));
+    EXPECT_TRUE(LogHas("The meeting as it was is put back into " + june + ": 20040610 1400 Budget meeting"));
+    EXPECT_EQ(Messages("mary"), std::vector<std::string>{}) << "no receipt, no confirmation, nothing said added";
+    server_->Poll();
+    for (const char* month : {"D200406.dat_NET", "D200407.dat_NET"})
+        EXPECT_FALSE(FileExists(StoreFolder("mary") + month)) << "no month handed back: " << month;
+}

@@ -102,6 +102,33 @@ TEST_F(DragDropTest, AnEventWithoutAReminderMovesWithoutOne) {
     EXPECT_TRUE(LogHas("-1 gridDays_DragDrop (leaving) : gintcur=")) << "the number comes first";
 }
 
+TEST_F(DragDropTest, OverTenDaysWhatIsDroppedLandsOnTheDayItsColumnIsHeaded) {
+    // A column's heading reads the day before the events it shows: what is dropped in
+    // the column headed "9" lands on the 9th and is drawn under the heading "8".
+    Form().mnuViewType[2].UserClick();  // a fortnight: the bank's call to 10:30
+    grid().UserMoveTo(11, ColumnHeaded("4"));
+    grid().UserMouseDown(vbLeftButton, 0, 0, 0);
+    dropOnGrid(grid(), 4, ColumnHeaded("9"));
+    const std::string moved = closed("D200406090001|20040609|Office|1030|30|Call|||||||||Ring the bank|\r\n");
+    EXPECT_EQ(Data("D200406.dat"), "\r\n" + kPost + moved) << "a view across a month end saves its months so";
+    EXPECT_EQ(grid().TextMatrix(4, ColumnHeaded("8")), "Ring the bank");
+
+    Form().mnuViewType[3].UserClick();  // the month: text at 11:00, the task at 11:30
+    const long col = ColumnHeaded("9");
+    grid().UserMouseAt(5, col);
+    dropText(grid(), "Call the plumber");
+    Form().lvCat.UserMouseAt(1);
+    Form().lvCat.UserMouseDown(vbLeftButton, 0, 0, 0);
+    dropOnGrid(Form().lvCat, 6, col);
+    EXPECT_EQ(Data("D200406.dat"),
+              "\r\n" + kPost + moved +
+                  closed("D200406050003|20040609||1100|30||fred|||20040609|1100||||Call the plumber|\r\n") +
+                  closed("D200406090002|20040609||1130|45||||||||||Order the fence|\r\n"));
+    EXPECT_EQ(grid().TextMatrix(4, col - 1), "Ring the bank");
+    EXPECT_EQ(grid().TextMatrix(5, col - 1), "Call the plumber");
+    EXPECT_EQ(grid().TextMatrix(6, col - 1), "Order the fence");
+}
+
 TEST_F(DragDropTest, TextFromAnotherProgramBecomesAnEventATaskOrANote) {
     grid().UserMouseAt(4, 2);
     dropText(grid(), "Call the plumber\r\nabout the leak");

@@ -144,6 +144,22 @@ TEST_F(EventCommandsTest, NewInTheWeekOfNextYearTakesTheDateOfTheSelectedColumn)
     EXPECT_EQ(Grid().TextMatrix(3, 3), "New year planning");
 }
 
+TEST_F(EventCommandsTest, OverTenDaysNewAndADoubleClickAddOnTheDayTheColumnIsHeaded) {
+    Start("");
+    // The column headed "9" shows the events of the 10th; what is added there is on the 9th.
+    Form().mnuViewType[3].UserClick();  // the month
+    Grid().UserClickCell(3, ColumnHeaded("9"));
+    Save("Dentist", "20040609 1000");
+    Toolbar("new");
+    Form().mnuViewType[2].UserClick();  // a fortnight
+    Save("Lunch", "20040609 1030");
+    DoubleClick(4, ColumnHeaded("9"));
+    EXPECT_EQ(File("200406"), "\r\n" + Added("D200406090001", "20040609", "1000", "Dentist", "1000") +
+                                  Added("D200406090002", "20040609", "1030", "Lunch", "1030"));
+    EXPECT_EQ(Grid().TextMatrix(3, ColumnHeaded("8")), "Dentist");
+    EXPECT_EQ(Grid().TextMatrix(4, ColumnHeaded("8")), "Lunch");
+}
+
 TEST_F(EventCommandsTest, EditDeleteAndRescheduleFromTheMenusAndThePopUpMenuActOnTheSelectedCell) {
     const std::string standup = Event("D200406050001", "0900", "Standup");
     Start(standup + Event("D200406050002", "1000", "Dentist"));

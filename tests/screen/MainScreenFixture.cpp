@@ -17,4 +17,11 @@ bool MainScreenFixture::LogHas(const std::string& message) const {
     return std::find(messages.begin(), messages.end(), message) != messages.end();
 }
 
+long MainScreenFixture::ColumnHeaded(const std::string& heading) {
+    const FlexGrid& grid = Form().gridDays;
+    for (long col = 2; col < grid.Cols; ++col)
+        if (grid.TextMatrix(0, col) == heading) return col;
+    return -1;
+}
+
 }  // namespace orbidex::test

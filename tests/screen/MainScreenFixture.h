@@ -18,6 +18,8 @@ protected:
     /// The text of a status bar panel (1 or 2).
     std::string Panel(long index) { return Form().status.Panels(index).Text; }
     bool LogHas(const std::string& message) const;
+    /// The day column of the main grid whose heading reads `heading`, or -1.
+    long ColumnHeaded(const std::string& heading);
 };
 
 }  // namespace orbidex::test
