@@ -149,10 +149,10 @@ TEST_F(EventCommandsTest, OverTenDaysNewAndADoubleClickAddOnTheDayTheColumnIsHea
     // The column headed "9" shows the events of the 10th; what is added there is on the 9th.
     Form().mnuViewType[3].UserClick();  // the month
     Grid().UserClickCell(3, ColumnHeaded("9"));
-    Save("Dentist", "20040609 1000");
+    Edit("", "Dentist", "20040609 1000");
     Toolbar("new");
     Form().mnuViewType[2].UserClick();  // a fortnight
-    Save("Lunch", "20040609 1030");
+    Edit("", "Lunch", "20040609 1030");
     DoubleClick(4, ColumnHeaded("9"));
     EXPECT_EQ(File("200406"), "\r\n" + Added("D200406090001", "20040609", "1000", "Dentist", "1000") +
                                   Added("D200406090002", "20040609", "1030", "Lunch", "1030"));
