@@ -23,6 +23,7 @@ inline constexpr std::string_view kCommonLocations = "common_locations.txt";
 inline constexpr std::string_view kCommonReferences = "common_references.txt";
 inline constexpr std::string_view kChangeRequest = "_CHANGE_REQUEST.TXT";
 inline constexpr std::string_view kAdd = "ADD.TXT";
+inline constexpr std::string_view kAddOK = "ADD.TXT.OK";
 inline constexpr std::string_view kMessage = "message.txt";
 inline constexpr std::string_view kMessageOK = "message.txt.OK";
 /// The work the server leaves for a client: changed or cancelled meetings, meetings

@@ -226,6 +226,65 @@ TEST_F(DiaryServerTest, WorkLeftByAPassThatStoppedIsFinishedFirst) {
     }
 }
 
+// ann's queue in the store cannot be written: mary gets the work at once, ann once
+// the obstacle is gone, and nobody twice.
+TEST_F(DiaryServerTest, WorkAQueueCannotTakeWaitsInTheStoreForThatUserOnly) {
+    MakeFolder(UserFolder("ann"));
+    const std::string meeting =
+        test::Fields({"D200406100001", "20040610", "Meeting", "1400", "60", "Meeting request for ann, mary, ", "fred",
+                      "", "", "", "", "", "", "Room 2", "Budget meeting"});
+    const std::string change = "OLD " + meeting + "\r\nNEW " + meeting + "\r\n";
+    const struct {
+        std::string file, confirm, bytes, queue, left, delivered;
+    } cases[] = {
+        {"ADD.TXT", "ADD.TXT.OK", "ann\x1F" + meeting + "\r\nmary\x1F" + meeting + "\r\n", "_4CLIENT.ADD",
+         "ann\x1F" + meeting + "\r\n", meeting + "\r\n"},
+        {"message.txt", "message.txt.OK", "ann, mary, \r\n20040605 09:30:12\r\nLunch?\r\n", "_4CLIENT.MESSAGE",
+         "ann, \r\n20040605 09:30:12\r\nLunch?\r\n", "20040605 09:30:12\r\nfred\r\nLunch?\r\n"},
+        {"_CHANGE_REQUEST.TXT", "_CHANGE_REQUEST.TXT.OK", "; 20040605 09:31:00 by PC User fred\r\n" + change,
+         "_4CLIENT.CHANGE", "; 20040605 09:31:00 by PC User fred\r\n" + change + "FOR ann, \r\n",
+         "; 20040605 09:31:00 fred\r\n" + change},
+    };
+    for (const auto& work : cases) {
+        SCOPED_TRACE(work.file);
+        const std::string taken = StoreFolder("fred") + work.file + ".taken";
+        const std::string blocked = StoreFolder("ann") + work.queue + "\\";
+        MakePathAux(blocked);
+        WriteBytes(UserFolder("fred") + work.file, work.bytes);
+        WriteBytes(UserFolder("fred") + work.confirm, "done\r\n");
+        serverLog_.clear();
+        server_->Poll();
+        EXPECT_EQ(ReadBytes(taken), work.left);
+        EXPECT_EQ(ReadBytes(Mary(work.queue)), work.delivered);
+        EXPECT_FALSE(FileExists(UserFolder("ann") + work.queue));
+        EXPECT_FALSE(FileExists(UserFolder("fred") + work.file));
+        EXPECT_TRUE(ServerLogged(work.queue + " for ann could not be written - it waits for the next pass"));
+
+        // The same work handed over again waits in fred's folder behind what is left.
+        WriteBytes(UserFolder("fred") + work.file, work.bytes);
+        WriteBytes(UserFolder("fred") + work.confirm, "done\r\n");
+        server_->Poll();
+        EXPECT_EQ(ReadBytes(taken), work.left);
+        EXPECT_EQ(ReadBytes(UserFolder("fred") + work.file), work.bytes);
+
+        std::filesystem::remove(ToNativePath(blocked));
+        server_->Poll();
+        EXPECT_FALSE(FileExists(taken));
+        EXPECT_FALSE(FileExists(UserFolder("fred") + work.file));
+        EXPECT_TRUE(ServerLogged("finished fred\\" + work.file + " left by a pass that stopped"));
+        // ann gets what was left, then the second hand-over; mary's second copy waits
+        // until her client took the first.  Nothing more comes for either after that.
+        EXPECT_EQ(ReadBytes(UserFolder("ann") + work.queue), work.delivered + work.delivered);
+        EXPECT_EQ(ReadBytes(Mary(work.queue)), work.delivered);
+        DeleteFile(Mary(work.queue));
+        server_->Poll();
+        EXPECT_EQ(ReadBytes(Mary(work.queue)), work.delivered);
+        for (const char* user : {"ann", "mary"}) DeleteFile(UserFolder(user) + work.queue);
+        server_->Poll();
+        for (const char* user : {"ann", "mary"}) EXPECT_FALSE(FileExists(UserFolder(user) + work.queue)) << user;
+    }
+}
+
 TEST_F(DiaryServerTest, EachLineOfABookingGoesToTheUserItNames) {
     const std::string meeting =
         test::Fields({"D200406100001", "20040610", "Meeting", "1400", "60", "Meeting request for fred, mary, ", "fred",

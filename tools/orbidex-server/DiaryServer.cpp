@@ -29,6 +29,11 @@ bool isExchangeFile(std::string_view name) {
     return StartsWith(UCase(name), "_4CLIENT.");
 }
 
+// Files whose work the server passes on to other users instead of keeping them.
+bool isWorkToPassOn(std::string_view name) {
+    return EqualsText(name, sf::kMessage) || EqualsText(name, sf::kAdd) || EqualsText(name, sf::kChangeRequest);
+}
+
 void sortByName(std::vector<std::string>& names) {
     std::sort(names.begin(), names.end(),
               [](const std::string& a, const std::string& b) { return UCase(a) < UCase(b); });
@@ -130,14 +135,9 @@ void DiaryServer::finishTakenFiles(const UserFolder& folder) {
         const std::string name = Left(taken, Len(taken) - Len(kTaken));
         std::string text;
         if (!ReadWholeFile(store + taken, text)) continue;
-        if (EqualsText(name, sf::kMessage))
-            routeMessage(folder.user, text);
-        else if (EqualsText(name, sf::kAdd))
-            routeBookings(folder.user, text);
-        else if (!keepInStore(folder, name, text))
-            continue;
-        DeleteFile(store + taken);
-        log("finished " + folder.user + "\\" + name + " left by a pass that stopped");
+        const bool finished = isWorkToPassOn(name) ? passOn(folder.user, name, store + taken, text)
+                                                   : keepInStore(folder, name, text) && DeleteFile(store + taken);
+        if (finished) log("finished " + folder.user + "\\" + name + " left by a pass that stopped");
     }
 }
 
@@ -159,21 +159,25 @@ void DiaryServer::takeOverHandedFiles(const UserFolder& folder) {
         // moved out here, or has it standing with its own ".OK" for the next pass.
         // Nothing the client wrote after the ".OK" is ever deleted unstored.
         const std::string store = StoreFolder(folder.user);
+        const std::string taken = store + name + std::string(kTaken);
+        if (FileExists(taken)) continue;  // the copy before it is not finished yet
         std::string confirmText;
         if (!MakePathAux(store) || !FolderExists(store)) {
             log("could not keep " + folder.user + "\\" + name + " - it stays for the next pass");
             continue;
         }
         if (!ReadWholeFile(confirm, confirmText) || !DeleteFile(confirm)) continue;  // handed over anew
-        const std::string taken = store + name + std::string(kTaken);
         std::string bytes;
         if (!RenameFile(folder.path + name, taken) || !ReadWholeFile(taken, bytes)) continue;
-        if (!keepInStore(folder, name, bytes)) {
+        if (EqualsText(name, sf::kChangeRequest)) {
+            passOn(folder.user, name, taken, bytes);  // what it could not pass on waits in the store
+        } else if (keepInStore(folder, name, bytes)) {
+            DeleteFile(taken);
+        } else {
             putBack(folder.path + name, taken, confirm, confirmText);
             log("could not keep " + folder.user + "\\" + name + " - it stays for the next pass");
             continue;
         }
-        DeleteFile(taken);
         WriteWholeFile(folder.path + std::string(sf::kServerFin), "taken over " + name + "\r\n");
         log("took over " + folder.user + "\\" + name);
     }
@@ -190,13 +194,8 @@ void DiaryServer::putBack(const std::string& file, const std::string& taken, con
     WriteWholeFile(confirm, confirmText);
 }
 
-// A change list goes on to the users of the meetings it changes; every other file
-// replaces the copy before it.
+// A file kept in the store replaces the copy before it.
 bool DiaryServer::keepInStore(const UserFolder& folder, const std::string& name, const std::string& bytes) {
-    if (EqualsText(name, sf::kChangeRequest)) {
-        routeChangeList(folder.user, bytes);
-        return true;
-    }
     const std::string store = StoreFolder(folder.user);
     MakePathAux(store);
     return WriteWholeFile(store + name, bytes);
@@ -251,64 +250,103 @@ std::string DiaryServer::searchResults(const std::string& requestText, const std
 }
 
 void DiaryServer::routeWork(const UserFolder& folder) {
-    routeMessage(folder.user, takeWork(folder, sf::kMessage, sf::kMessageOK));
-    routeBookings(folder.user, takeWork(folder, sf::kAdd, std::string(sf::kAdd) + std::string(sf::kOK)));
+    for (const auto& [file, confirm] : {std::pair{sf::kMessage, sf::kMessageOK}, std::pair{sf::kAdd, sf::kAddOK}}) {
+        std::string text;
+        if (takeWork(folder, file, confirm, text))
+            passOn(folder.user, std::string(file), StoreFolder(folder.user) + std::string(file) + std::string(kTaken),
+                   text);
+    }
 }
 
 // A file of work the client publishes with its ".OK": the ".OK" goes before the file
 // is taken, so that a file the client writes meanwhile is either the one taken, or
-// stands whole with its own ".OK" for the next pass.  "" when there is none.
-std::string DiaryServer::takeWork(const UserFolder& folder, std::string_view file, std::string_view confirmFile) {
+// stands whole with its own ".OK" for the next pass.  It waits while the work taken
+// before it is not all passed on.  False when none was taken; a taken file that
+// cannot be read waits in the store for the next pass.
+bool DiaryServer::takeWork(const UserFolder& folder, std::string_view file, std::string_view confirmFile,
+                           std::string& text) {
     const std::string confirm = folder.find(confirmFile);
     const std::string name = folder.find(file);
-    if (confirm.empty() || name.empty()) return "";
     const std::string taken = StoreFolder(folder.user) + std::string(file) + std::string(kTaken);
+    if (confirm.empty() || name.empty() || FileExists(taken)) return false;
     MakePathAux(StoreFolder(folder.user));
     DeleteFile(folder.path + confirm);
-    std::string text;
-    if (!RenameFile(folder.path + name, taken) || !ReadWholeFile(taken, text)) text.clear();
-    DeleteFile(taken);
-    return text;
+    return RenameFile(folder.path + name, taken) && ReadWholeFile(taken, text);
+}
+
+// The taken file goes once all its work is queued; otherwise it keeps only the work
+// for the users whose queues could not be written, for the next pass.
+bool DiaryServer::passOn(const std::string& sender, const std::string& name, const std::string& taken,
+                         const std::string& text) {
+    std::string left;
+    if (EqualsText(name, sf::kMessage))
+        left = routeMessage(sender, text);
+    else if (EqualsText(name, sf::kAdd))
+        left = routeBookings(sender, text);
+    else
+        left = routeChangeList(sender, text);
+    if (left.empty()) return DeleteFile(taken);
+    WriteWholeFile(taken, left);
+    return false;
 }
 
 // A message goes to every user it names, the sender too.
-void DiaryServer::routeMessage(const std::string& sender, const std::string& text) {
-    if (text.empty()) return;
+std::string DiaryServer::routeMessage(const std::string& sender, const std::string& text) {
+    if (text.empty()) return "";
     const OutgoingMessage message = ParseMessage(text);
-    if (message.text.empty()) log(sender + "\\" + std::string(sf::kMessage) + " holds no text - dropped");
-    for (const std::string& user : message.users)
-        if (!message.text.empty() && queueFor(user, sf::kClientMessage, MessageFor(message, sender)))
-            log("message from " + sender + " for " + user);
+    if (message.text.empty()) {
+        log(sender + "\\" + std::string(sf::kMessage) + " holds no text - dropped");
+        return "";
+    }
+    std::vector<std::string> usersLeft;
+    for (const std::string& user : message.users) {
+        const Queued queued = queueFor(user, sf::kClientMessage, MessageFor(message, sender));
+        if (queued == Queued::yes) log("message from " + sender + " for " + user);
+        if (queued == Queued::notYet) usersLeft.push_back(user);
+    }
+    return usersLeft.empty() ? "" : MessageLeftFor(message, usersLeft);
 }
 
 // Each line of a booking names one user; the event behind the name goes to that
 // user's _4CLIENT.ADD, the booker's own included.
-void DiaryServer::routeBookings(const std::string& sender, const std::string& text) {
-    for (const MeetingBooking& booking : ParseBookings(text))
-        if (queueFor(booking.user, sf::kClientAdd, booking.eventLine + "\r\n"))
-            log("meeting from " + sender + " for " + booking.user);
-}
-
-void DiaryServer::routeChangeList(const std::string& sender, const std::string& text) {
-    for (const MeetingChange& change : ParseChangeList(text)) {
-        for (const std::string& user : MeetingUsers(change)) {
-            // The user who made the change has it already.
-            if (EqualsText(user, sender) || !queueFor(user, sf::kClientChange, ChangeFor(change, sender))) continue;
-            log("change of a meeting from " + sender + " for " + user);
-        }
+std::string DiaryServer::routeBookings(const std::string& sender, const std::string& text) {
+    std::string left;
+    for (const MeetingBooking& booking : ParseBookings(text)) {
+        const Queued queued = queueFor(booking.user, sf::kClientAdd, booking.eventLine + "\r\n");
+        if (queued == Queued::yes) log("meeting from " + sender + " for " + booking.user);
+        if (queued == Queued::notYet) left += booking.user + "\x1F" + booking.eventLine + "\r\n";
     }
+    return left;
 }
 
-bool DiaryServer::queueFor(const std::string& user, std::string_view name, const std::string& text) {
+std::string DiaryServer::routeChangeList(const std::string& sender, const std::string& text) {
+    std::string left;
+    for (const MeetingChange& change : ParseChangeList(text)) {
+        std::vector<std::string> usersLeft;
+        for (const std::string& user : change.usersLeft.empty() ? MeetingUsers(change) : change.usersLeft) {
+            // The user who made the change has it already.
+            if (EqualsText(user, sender)) continue;
+            const Queued queued = queueFor(user, sf::kClientChange, ChangeFor(change, sender));
+            if (queued == Queued::yes) log("change of a meeting from " + sender + " for " + user);
+            if (queued == Queued::notYet) usersLeft.push_back(user);
+        }
+        if (!usersLeft.empty()) left += ChangeLeftFor(change, usersLeft);
+    }
+    return left;
+}
+
+DiaryServer::Queued DiaryServer::queueFor(const std::string& user, std::string_view name, const std::string& text) {
     const std::vector<std::string> known = userNames();
     const auto found = std::find_if(known.begin(), known.end(), [&](const auto& k) { return EqualsText(k, user); });
     if (found == known.end()) {
         log(std::string(name) + " for " + user + ", who has no folder - dropped");
-        return false;
+        return Queued::dropped;
     }
     const std::string store = StoreFolder(*found);
     MakePathAux(store);
-    return AppendToFile(store + std::string(name), text);
+    if (AppendToFile(store + std::string(name), text)) return Queued::yes;
+    log(std::string(name) + " for " + user + " could not be written - it waits for the next pass");
+    return Queued::notYet;
 }
 
 // A file of work reaches the folder in one step, and only once the client has taken

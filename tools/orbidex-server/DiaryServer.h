@@ -50,13 +50,19 @@ private:
     void answerRequest(const UserFolder& folder);
     std::string searchResults(const std::string& requestText, const std::string& asker) const;
     void routeWork(const UserFolder& folder);
-    std::string takeWork(const UserFolder& folder, std::string_view file, std::string_view confirmFile);
-    void routeMessage(const std::string& sender, const std::string& text);
-    void routeBookings(const std::string& sender, const std::string& text);
-    void routeChangeList(const std::string& sender, const std::string& text);
-    /// Adds `text` to the work waiting in the store for `user`'s file `name`; false
-    /// for a user without a folder.
-    bool queueFor(const std::string& user, std::string_view name, const std::string& text);
+    bool takeWork(const UserFolder& folder, std::string_view file, std::string_view confirmFile, std::string& text);
+    /// Passes on the work of a taken file (a message, a booking or a change list);
+    /// true when all of it went and the taken file is gone.
+    bool passOn(const std::string& sender, const std::string& name, const std::string& taken, const std::string& text);
+    /// Each routes its work and returns what it could not queue, in its own form.
+    std::string routeMessage(const std::string& sender, const std::string& text);
+    std::string routeBookings(const std::string& sender, const std::string& text);
+    std::string routeChangeList(const std::string& sender, const std::string& text);
+    /// What became of a piece of work for one user: queued, dropped for a user
+    /// without a folder, or not yet, since the queue could not be written.
+    enum class Queued { yes, dropped, notYet };
+    /// Adds `text` to the work waiting in the store for `user`'s file `name`.
+    Queued queueFor(const std::string& user, std::string_view name, const std::string& text);
     /// Puts the waiting work into the users' folders, each file once the client
     /// has taken the one before.
     void deliverWork(const std::vector<std::string>& users);

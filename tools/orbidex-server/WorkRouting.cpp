@@ -11,6 +11,7 @@ namespace orbidex::server {
 namespace {
 
 constexpr std::string_view kMeetingRequestFor = "Meeting request for ";
+constexpr std::string_view kUsersLeft = "FOR ";
 // The places of two fields in an event line: the action and the contact.
 constexpr size_t kActionField = 5;
 constexpr size_t kContactField = 6;
@@ -29,6 +30,13 @@ void addUsersOf(std::vector<std::string>& users, const std::string& eventLine) {
     if (fields.size() > kContactField) addUser(users, Trim(fields[kContactField]));
 }
 
+// A list of users as the client writes one: each name followed by ", ".
+std::string userList(const std::vector<std::string>& users) {
+    std::string list;
+    for (const std::string& user : users) list += user + ", ";
+    return list;
+}
+
 }  // namespace
 
 std::vector<MeetingChange> ParseChangeList(std::string_view text) {
@@ -37,8 +45,10 @@ std::vector<MeetingChange> ParseChangeList(std::string_view text) {
     for (size_t i = 0; i + 2 < lines.size(); ++i) {
         if (!StartsWith(lines[i], ";") || !StartsWith(lines[i + 1], "OLD ") || !StartsWith(lines[i + 2], "NEW "))
             continue;
-        changes.push_back({lines[i], lines[i + 1], lines[i + 2]});
+        changes.push_back({lines[i], lines[i + 1], lines[i + 2], {}});
         i += 2;
+        if (i + 1 < lines.size() && StartsWith(lines[i + 1], kUsersLeft))
+            changes.back().usersLeft = UserNames(Mid(lines[++i], Len(kUsersLeft) + 1));
     }
     return changes;
 }
@@ -55,6 +65,11 @@ std::string ChangeFor(const MeetingChange& change, const std::string& changedBy)
     return time + " " + changedBy + "\r\n" + change.oldLine + "\r\n" + change.newLine + "\r\n";
 }
 
+std::string ChangeLeftFor(const MeetingChange& change, const std::vector<std::string>& users) {
+    return change.header + "\r\n" + change.oldLine + "\r\n" + change.newLine + "\r\n" + std::string(kUsersLeft) +
+           userList(users) + "\r\n";
+}
+
 OutgoingMessage ParseMessage(std::string_view text) {
     std::vector<std::string> lines = SplitLines(text);
     lines.resize(std::max<size_t>(lines.size(), 3));
@@ -63,6 +78,10 @@ OutgoingMessage ParseMessage(std::string_view text) {
 
 std::string MessageFor(const OutgoingMessage& message, const std::string& sender) {
     return message.sent + "\r\n" + sender + "\r\n" + message.text + "\r\n";
+}
+
+std::string MessageLeftFor(const OutgoingMessage& message, const std::vector<std::string>& users) {
+    return userList(users) + "\r\n" + message.sent + "\r\n" + message.text + "\r\n";
 }
 
 std::vector<MeetingBooking> ParseBookings(std::string_view text) {

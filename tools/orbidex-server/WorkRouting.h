@@ -16,10 +16,14 @@ struct MeetingChange {
     std::string header;
     std::string oldLine;
     std::string newLine;
+    /// The users it has still to reach, when the server kept it because some of
+    /// their queues could not be written ("FOR " + a user list after "NEW ").
+    std::vector<std::string> usersLeft;
 };
 
 /// The changes of a change list.  A change begins at a line that begins with ";"
-/// and is followed by its "OLD " and "NEW " lines; any other line is passed over.
+/// and is followed by its "OLD " and "NEW " lines, and maybe a "FOR " line; any
+/// other line is passed over.
 std::vector<MeetingChange> ParseChangeList(std::string_view text);
 /// The users of the meeting: those it was booked for ("Meeting request for " +
 /// a user list, in the event's action) and its booker (the contact), in the old
@@ -28,6 +32,8 @@ std::vector<std::string> MeetingUsers(const MeetingChange& change);
 /// The change as the other users' clients read it: the header's first 19
 /// characters (the time) + " " + the user who changed it, then the two events.
 std::string ChangeFor(const MeetingChange& change, const std::string& changedBy);
+/// The change as the server keeps it for the users it has still to reach.
+std::string ChangeLeftFor(const MeetingChange& change, const std::vector<std::string>& users);
 
 /// One message: line 1 the users + " , ", line 2 the time, line 3 the text.
 struct OutgoingMessage {
@@ -39,6 +45,8 @@ struct OutgoingMessage {
 OutgoingMessage ParseMessage(std::string_view text);
 /// The message as the users' clients read it: the time, the sender, the text.
 std::string MessageFor(const OutgoingMessage& message, const std::string& sender);
+/// The message as the server keeps it for the users it has still to reach.
+std::string MessageLeftFor(const OutgoingMessage& message, const std::vector<std::string>& users);
 
 /// One line of a booking: the user it is for, and the event behind the first
 /// field mark.
