@@ -158,6 +158,7 @@ void frmClipboard::SaveScratchTabs(const std::string& iniPath) {
 bool frmClipboard::saveShownTab() {
     if (shown_ < 0 || shown_ >= static_cast<long>(tabs_.size())) return true;
     tmrSave.Enabled = false;
+    if (unreadShown_) return true;
     FileError error;
     if (WriteWholeFile(tabs_[static_cast<size_t>(shown_)].file, txtClip.Text(), &error)) return true;
     ShowFileError("frmClipboard saving " + tabs_[static_cast<size_t>(shown_)].file, error);
@@ -172,7 +173,11 @@ void frmClipboard::showTab(long index) {
     std::string bytes;
     // A tab whose file is not there yet keeps what the box holds (the welcome text)
     // the first time, and is empty after a change of tab.
-    if (ReadWholeFile(tab.file, bytes)) txtClip.Text = bytes;
+    const bool read = ReadWholeFile(tab.file, bytes);
+    if (read) txtClip.Text = bytes;
+    // A file that is there but could not be read is not written over with the empty
+    // box; what the user types replaces it.
+    unreadShown_ = !read && FileExists(tab.file);
     if (tab.mode == "LOCKED") txtClip.BackColor = vbButtonFace;
     if (tab.mode == "FREE") txtClip.BackColor = kFreeColour;
     if (tab.mode == "APPEND") txtClip.BackColor = kAppendColour;
@@ -203,7 +208,9 @@ void frmClipboard::tabClip_MouseDown(int button, int, long, long) {
 }
 
 void frmClipboard::txtClip_Change() {
-    if (!filling_ && shown_ >= 0) tmrSave.Enabled = true;
+    if (filling_ || shown_ < 0) return;
+    unreadShown_ = false;
+    tmrSave.Enabled = true;
 }
 
 void frmClipboard::tmrSave_Timer() {

@@ -91,7 +91,7 @@ public:
 private:
     void bindEvents();
     /// The shown tab's text to its file; false when it could not be written (the
-    /// user is told).
+    /// user is told).  A file that could not be read is left alone until the user types.
     bool saveShownTab();
     /// Shows the text of the tab at `index` (from 0) in its mode's colour.
     void showTab(long index);
@@ -100,8 +100,9 @@ private:
     std::string newTabFile(long number) const;
 
     std::vector<ScratchTab> tabs_;
-    long shown_ = -1;       ///< the tab whose text txtClip holds, from 0; -1 for none
-    bool filling_ = false;  ///< the program, not the user, is changing the tabs or the text
+    long shown_ = -1;           ///< the tab whose text txtClip holds, from 0; -1 for none
+    bool filling_ = false;      ///< the program, not the user, is changing the tabs or the text
+    bool unreadShown_ = false;  ///< the shown tab's file is there but could not be read, nothing typed since
 };
 
 /// The one scratch pad of the program.

@@ -262,8 +262,8 @@ void frmListAndDetailsSubForm::cmdUpdate_Click() {
 }
 
 void frmListAndDetailsSubForm::cmdSave_Click() {
+    // The save clears dataChanged, unless the file could not be written.
     cmdUpdate_Click();
-    glbConfig.dataChanged = false;
 }
 
 void frmListAndDetailsSubForm::cmdAdd_Click() {
@@ -296,22 +296,25 @@ void frmListAndDetailsSubForm::cmdDelete_Click() {
     filling_ = false;
 }
 
-void frmListAndDetailsSubForm::saveList() {
+bool frmListAndDetailsSubForm::saveList() {
     if (shownRow_ != nullptr && cmdUpdate.Enabled) rowFromControls(*shownRow_);
     cmdUpdate.Enabled = false;
-    SaveListToFile(lstList, gListAndDetails.fileName);
+    return SaveListToFile(lstList, gListAndDetails.fileName);
 }
 
 void frmListAndDetailsSubForm::cmdOK_Click() {
-    saveList();
-    Unload();
+    // A list that could not be written keeps the window open, so it is not lost.
+    if (saveList()) Unload();
 }
 
-void frmListAndDetailsSubForm::Form_Unload(int&) {
+void frmListAndDetailsSubForm::Form_Unload(int& cancel) {
     if (!glbConfig.dataChanged) return;
-    if (platform().MsgBox("Data has not been saved - do you want to save the changes?", vbYesNo, "Save Changes") ==
-        vbYes)
-        saveList();
+    const bool save = platform().MsgBox("Data has not been saved - do you want to save the changes?", vbYesNo,
+                                        "Save Changes") == vbYes;
+    if (save && !saveList()) {
+        cancel = 1;
+        return;
+    }
     glbConfig.dataChanged = false;
 }
 

@@ -67,8 +67,9 @@ private:
     void showFieldValue(int i, const std::string& value);
     void controlsFromRow(const ListItem& row);
     void rowFromControls(ListItem& row);
-    /// Puts edits not yet in the list into it, then rewrites the file.
-    void saveList();
+    /// Puts edits not yet in the list into it, then rewrites the file; false if the
+    /// file could not be written.
+    bool saveList();
 
     ListItem* shownRow_ = nullptr;  ///< the row whose values the controls hold
     bool filling_ = false;          ///< the program, not the user, fills the controls

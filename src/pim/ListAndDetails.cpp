@@ -2,6 +2,7 @@
 
 #include "config/clsConfigDiary.h"
 #include "controls/ListView.h"
+#include "foundation/FileHelpers.h"
 #include "foundation/FileSystem.h"
 #include "foundation/VbDate.h"
 #include "foundation/VbString.h"
@@ -60,7 +61,7 @@ void LoadRecordFileToListBox(ListView& list, const std::string& file, std::strin
     }
 }
 
-void SaveListToFile(const ListView& list, const std::string& file) {
+bool SaveListToFile(const ListView& list, const std::string& file) {
     glbLog.log("Saving List to file :" + file, 3);
     const std::string field(gListAndDetails.delimiter);
     std::string bytes;
@@ -69,8 +70,13 @@ void SaveListToFile(const ListView& list, const std::string& file) {
         for (long k = 1; k < gListAndDetails.numFields; ++k) bytes += row->SubItems(k) + field;
         bytes += kRecordDelimiter;
     }
-    WriteWholeFile(file, bytes);
+    FileError error;
+    if (!WriteWholeFile(file, bytes, &error)) {
+        ShowFileError("SaveListToFile saving " + file, error);
+        return false;
+    }
     glbConfig.dataChanged = false;
+    return true;
 }
 
 std::string getUniqueIDfromListView(const ListView& list) {

@@ -69,8 +69,9 @@ void LoadRecordFileToListBox(ListView& list, const std::string& file, std::strin
                              std::string_view recordDelimiter);
 /// Rewrites the record file from the rows: the row's text and the cells of the
 /// other fields of gListAndDetails, each followed by 0x1F, then 0x1E.  Clears
-/// glbConfig.dataChanged.
-void SaveListToFile(const ListView& list, const std::string& file);
+/// glbConfig.dataChanged and gives true; a file that cannot be written is shown as
+/// a file error, keeps the flag and gives false.
+bool SaveListToFile(const ListView& list, const std::string& file);
 /// The key of a new row: the highest key in the list (or "X1999010100000" for an
 /// empty list) gives the letter, today's date and the next sequence of the day.
 std::string getUniqueIDfromListView(const ListView& list);

@@ -6,6 +6,7 @@
 #include "controls/KeyCodes.h"
 #include "diary/cDiaryRecords.h"
 #include "foundation/DateHelpers.h"
+#include "foundation/FileHelpers.h"
 #include "foundation/FileSystem.h"
 #include "foundation/ProgramState.h"
 #include "foundation/VbDate.h"
@@ -196,7 +197,8 @@ void frmSearchResults::SaveResults(const std::string& file, const std::string& d
         for (long k = 1; k <= cells; ++k) line += row.SubItems(k) + (k < cells ? delimiter : "");
         text += line + "\r\n";
     }
-    WriteWholeFile(file, text);
+    FileError error;
+    if (!WriteWholeFile(file, text, &error)) ShowFileError("SaveResults saving " + file, error);
 }
 
 void frmSearchResults::tellNoMoreInformation(const ListItem& row) {

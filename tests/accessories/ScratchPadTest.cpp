@@ -1,5 +1,6 @@
 // The scratch pad as a user keeps it: tabs added, typed into and removed, the
 // program started again, read back from scratch.ini and the tabs' files.
+#include <filesystem>
 #include <functional>
 
 #include "ProgramFixture.h"
@@ -175,4 +176,27 @@ TEST_F(ScratchPadTest, ATextThatCantBeWrittenKeepsItsTabAndTheWindow) {
         EXPECT_EQ(pad.txtClip.Text(), "Typed") << c.what;
     }
     EXPECT_EQ(File("other.tmp"), "Other text");
+}
+
+TEST_F(ScratchPadTest, ATabWhoseFileCantBeReadIsNotWrittenOverUntilSomethingIsTyped) {
+    WriteBytes(Stored("scratch.ini"), "[TabDefinitions]\r\nUnread,unread.tmp,FREE,\r\nOther,other.tmp,FREE,\r\n");
+    WriteBytes(Stored("other.tmp"), "Other text");
+    // The file is there, but reading it fails (and so does writing to where it lies).
+    const std::filesystem::path unread = ToNativePath(Stored("unread.tmp"));
+    std::filesystem::create_symlink("/proc/self/mem", unread);
+    frmClipboard& pad = Open();
+    EXPECT_EQ(pad.txtClip.Text(), "");
+    Choose(pad, 2);
+    EXPECT_EQ(pad.txtClip.Text(), "Other text");
+    Choose(pad, 1);
+    CloseAndRestart();
+    EXPECT_TRUE(platform_.MessageTexts().empty()) << "leaving the tab and closing the window write nothing to it";
+    EXPECT_TRUE(std::filesystem::is_symlink(unread));
+    EXPECT_EQ(File("other.tmp"), "Other text");
+
+    frmClipboard& again = Open();
+    Type(again, "Typed");
+    EXPECT_FALSE(again.UserClose()) << "what is typed is written";
+    EXPECT_EQ(platform_.MessageTexts(),
+              std::vector<std::string>{"Error in frmClipboard saving unread.tmp Error=76 = Path not found"});
 }

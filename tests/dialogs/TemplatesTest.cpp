@@ -1,10 +1,13 @@
 // Event templates kept through the list-and-details form, the task template, and the
 // phrase lists, as a user keeps them, read back from their files.
+#include <functional>
+
 #include "DialogFixture.h"
 #include "dialogs/frmEditEvent.h"
 #include "dialogs/frmListAndDetailsSubForm.h"
 #include "dialogs/frmTemplateEdit.h"
 #include "dialogs/frmTemplateList.h"
+#include "foundation/FileSystem.h"
 
 using namespace orbidex;
 
@@ -97,6 +100,50 @@ TEST_F(TemplatesTest, EventTemplatesAreAddedEditedAndKeptByTheListAndDetailsForm
     platform_.ClearTranscript();
     TemplatesFromACancelledEvent();
     EXPECT_TRUE(platform_.Transcript().empty());
+}
+
+TEST_F(TemplatesTest, TemplatesThatCantBeWrittenKeepTheFormOpenAndUnsaved) {
+    MakeFolder(Data("template_event.dat"));  // where the record file should be
+    const std::string refused =
+        "Error in SaveListToFile saving " + Data("template_event.dat") + " Error=75 = Path/File access error";
+    const std::string unsaved = "Data has not been saved - do you want to save the changes?";
+    OnTemplates([&](frmListAndDetailsSubForm& form) {
+        platform_.QueueInputAnswer("Dentist check");
+        form.cmdAdd.UserClick();
+        // Each way of saving is told of the failure and keeps the list to be saved.
+        const struct {
+            const char* what;
+            std::function<void()> save;
+            std::vector<std::string> messages;
+        } cases[] = {
+            {"Update",
+             [&] {
+                 Type(form.txt(2), "30");
+                 form.cmdUpdate.UserClick();
+             },
+             {refused}},
+            {"Save", [&] { form.cmdSave.UserClick(); }, {refused}},
+            {"OK", [&] { form.cmdOK.UserClick(); }, {refused}},
+            {"closed, Yes to saving",
+             [&] {
+                 platform_.QueueMsgBoxAnswer(vbYes);
+                 form.UserClose();
+             },
+             {unsaved, refused}},
+        };
+        for (const auto& c : cases) {
+            platform_.ClearTranscript();
+            c.save();
+            EXPECT_EQ(platform_.MessageTexts(), c.messages) << c.what;
+            EXPECT_FALSE(form.IsUnloaded()) << c.what;
+            EXPECT_TRUE(glbConfig.dataChanged) << c.what;
+        }
+        EXPECT_EQ(form.lstList.ListItems(1).SubItems(2), "30") << "the list keeps what was typed";
+        platform_.QueueMsgBoxAnswer(vbNo);
+        EXPECT_TRUE(form.UserClose());
+    });
+    TemplatesFromACancelledEvent();
+    EXPECT_TRUE(FolderExists(Data("template_event.dat")));
 }
 
 TEST_F(TemplatesTest, APhraseListIsEditedAndOnlyOKWritesIt) {

@@ -222,6 +222,13 @@ TEST_F(SearchWindowsTest, TheListSortsByAnyColumnAndIsSavedWithItsHeading) {
     platform_.QueueInputAnswer(Stored("found.txt"));
     Results().mnuResultsSaveAs[1].UserClick();
     EXPECT_NE(ReadBytes(Stored("found.txt")).find("- Note -\t \t \tNote\tTrip plans\tnote\r\n"), std::string::npos);
+    // A file that cannot be written is told of.
+    platform_.ClearTranscript();
+    platform_.QueueInputAnswer(Stored("missing\\found.csv"));
+    Results().mnuResultsSaveAs[0].UserClick();
+    EXPECT_EQ(platform_.MessageTexts(),
+              std::vector<std::string>{"Error in SaveResults saving " + Stored("missing\\found.csv") +
+                                       " Error=76 = Path not found"});
 
     Results().mnuResultsExit.UserClick();
     EXPECT_EQ(list.ListItems.Count(), 0);
