@@ -70,6 +70,8 @@ std::vector<std::string> DiaryServer::userNames() const {
 }
 
 void DiaryServer::Poll() {
+    waitingBefore_ = std::move(waitingNow_);
+    waitingNow_.clear();
     if (!usersLoaded_) {
         std::string text;
         ReadWholeFile(share_ + std::string(kStoreRoot) + std::string(sf::kUsers), text);
@@ -163,7 +165,7 @@ void DiaryServer::takeOverHandedFiles(const UserFolder& folder) {
         if (FileExists(taken)) continue;  // the copy before it is not finished yet
         std::string confirmText;
         if (!MakePathAux(store) || !FolderExists(store)) {
-            log("could not keep " + folder.user + "\\" + name + " - it stays for the next pass");
+            logWaiting("could not keep " + folder.user + "\\" + name + " - it stays for the next pass");
             continue;
         }
         if (!ReadWholeFile(confirm, confirmText) || !DeleteFile(confirm)) continue;  // handed over anew
@@ -175,7 +177,7 @@ void DiaryServer::takeOverHandedFiles(const UserFolder& folder) {
             DeleteFile(taken);
         } else {
             putBack(folder.path + name, taken, confirm, confirmText);
-            log("could not keep " + folder.user + "\\" + name + " - it stays for the next pass");
+            logWaiting("could not keep " + folder.user + "\\" + name + " - it stays for the next pass");
             continue;
         }
         WriteWholeFile(folder.path + std::string(sf::kServerFin), "taken over " + name + "\r\n");
@@ -213,7 +215,7 @@ void DiaryServer::answerRequest(const UserFolder& folder) {
     }
     const std::string results = searchResults(text, folder.user);
     if (!WriteWholeFile(folder.path + std::string(sf::kResults), results)) {
-        log("could not write the results for " + folder.user + " - the request waits for the next pass");
+        logWaiting("could not write the results for " + folder.user + " - the request waits for the next pass");
         return;
     }
     // Likewise the request goes before the results are published, so that the
@@ -345,7 +347,7 @@ DiaryServer::Queued DiaryServer::queueFor(const std::string& user, std::string_v
     const std::string store = StoreFolder(*found);
     MakePathAux(store);
     if (AppendToFile(store + std::string(name), text)) return Queued::yes;
-    log(std::string(name) + " for " + user + " could not be written - it waits for the next pass");
+    logWaiting(std::string(name) + " for " + user + " could not be written - it waits for the next pass");
     return Queued::notYet;
 }
 
@@ -387,6 +389,11 @@ void DiaryServer::shareWordLists(const std::vector<std::string>& users) {
 
 void DiaryServer::log(const std::string& message) const {
     if (log_) log_(message);
+}
+
+void DiaryServer::logWaiting(const std::string& message) {
+    waitingNow_.insert(message);
+    if (!waitingBefore_.contains(message)) log(message);
 }
 
 }  // namespace orbidex::server

@@ -4,9 +4,11 @@
 // the server's own store, answers search requests from the network form of the
 // users' months, passes booked and changed meetings and messages on to the users
 // they are for, and keeps every folder's USERS.TXT.  It holds no state between
-// steps that the folders do not hold, so it can be stopped and started at any time.
+// steps that the folders do not hold, so it can be stopped and started at any time
+// (bar which failures it has logged already, so that one that lasts is logged once).
 
 #include <functional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -69,11 +71,16 @@ private:
     void shareUserList(const std::vector<std::string>& users);
     void shareWordLists(const std::vector<std::string>& users);
     void log(const std::string& message) const;
+    /// Logs a failure that leaves work for the next pass, unless the pass before
+    /// logged the same one: a failure that lasts is logged once, when it starts.
+    void logWaiting(const std::string& message);
 
     std::string share_;  ///< ends in "\"
     Log log_;
     UserList users_;
     bool usersLoaded_ = false;
+    std::set<std::string> waitingNow_;     ///< failures logged or met in this pass
+    std::set<std::string> waitingBefore_;  ///< those of the pass before
 };
 
 }  // namespace orbidex::server
