@@ -229,6 +229,22 @@ TEST_F(DiaryServerTest, WorkLeftByAPassThatStoppedIsFinishedFirst) {
     }
 }
 
+TEST_F(DiaryServerTest, ATakenFileThatCannotBeReadIsLoggedOnceAndWorkOfItsKindWaits) {
+    // Files cannot be made unreadable for a test running as root: a link to a file
+    // whose reading always fails stands in.
+    MakePathAux(StoreFolder("fred"));
+    std::filesystem::create_symlink("/proc/self/mem", ToNativePath(StoreFolder("fred") + "message.txt.taken"));
+    WriteBytes(UserFolder("fred") + "message.txt", "mary, \r\n20040605 09:30:12\r\nLunch?\r\n");
+    WriteBytes(UserFolder("fred") + "message.txt.OK", "done\r\n");
+    server_->Poll();
+    server_->Poll();
+    EXPECT_EQ(std::count(serverLog_.begin(), serverLog_.end(),
+                         "could not read fred\\message.txt.taken - it waits for the next pass"),
+              1);
+    EXPECT_TRUE(FileExists(UserFolder("fred") + "message.txt")) << "the newer message waits behind it";
+    EXPECT_FALSE(FileExists(Mary("_4CLIENT.MESSAGE")));
+}
+
 // ann's queue in the store cannot be written: mary gets the work at once, ann once
 // the obstacle is gone, and nobody twice.
 TEST_F(DiaryServerTest, WorkAQueueCannotTakeWaitsInTheStoreForThatUserOnly) {

@@ -136,7 +136,11 @@ void DiaryServer::finishTakenFiles(const UserFolder& folder) {
     for (const std::string& taken : ListFolder(store + "*" + std::string(kTaken), false)) {
         const std::string name = Left(taken, Len(taken) - Len(kTaken));
         std::string text;
-        if (!ReadWholeFile(store + taken, text)) continue;
+        if (!ReadWholeFile(store + taken, text)) {
+            // What comes after it waits behind it (see takeWork): say why.
+            logWaiting("could not read " + folder.user + "\\" + taken + " - it waits for the next pass");
+            continue;
+        }
         const bool finished = isWorkToPassOn(name) ? passOn(folder.user, name, store + taken, text)
                                                    : keepInStore(folder, name, text) && DeleteFile(store + taken);
         if (finished) log("finished " + folder.user + "\\" + name + " left by a pass that stopped");
