@@ -292,25 +292,6 @@ protected:
     std::vector<std::string> MonthlyFiles() const { return ListFolder(DataPath() + "D*.dat", false); }
 };
 
-TEST_F(SelectionAfterSaveTest, AnEditOpensTheEventDoubleClicked) {
-    Edit("Lunch", "Lunch with Ann");
-    DoubleClick(7, 2);  // 12:00
-    EXPECT_EQ(File("200406"), standupAtNine_ + dentist_ + Event("D200406050003", "1200", "Lunch with Ann"));
-}
-
-TEST_F(SelectionAfterSaveTest, ARescheduleMovesTheEventClicked) {
-    On<frmRescheduleEvent>("frmRescheduleEvent", [](frmRescheduleEvent& form) {
-        EXPECT_EQ(form.txtDetails.Text(), "Dentist");
-        EXPECT_EQ(FormatDate(form.dtPickDate.Value, "yyyymmdd"), "20040605");
-        form.optMoveAhead(0).UserClick();  // the next day
-        form.cmdOK.UserClick();
-    });
-    Grid().UserClickCell(3, 2);  // 10:00
-    Form().mnuAppReschedule.UserClick();
-    EXPECT_EQ(File("200406"), standupAtNine_ + lunch_ + Event("D200406060001", "1000", "Dentist", "20040606"));
-    EXPECT_EQ(MonthlyFiles(), std::vector<std::string>{"D200406.dat"});
-}
-
 TEST_F(SelectionAfterSaveTest, ADeleteTakesOutTheEventClickedAndLeavesNoneSelected) {
     Grid().UserClickCell(7, 2);  // Lunch
     Edit("Lunch");
